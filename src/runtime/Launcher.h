@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+/// Starts other programs.
+class Launcher
+{
+public:
+    virtual ~Launcher() = default;
+    /// Starts a command line in a normal window and does not wait for its end.
+    /// Fails with RuntimeError FileNotFound when there is nothing that could be started.
+    virtual void run(const QString &commandLine) = 0;
+};

@@ -1,0 +1,48 @@
+#include "runtime/RuntimeError.h"
+
+RuntimeError::RuntimeError(qint32 number) : RuntimeError(number, QStringLiteral("Tessaly"), {})
+{
+}
+
+RuntimeError::RuntimeError(qint32 number, QString source, QString description)
+    : mNumber(number), mSource(std::move(source)),
+      mDescription(description.isEmpty() ? usualDescription(number) : std::move(description)),
+      mWhat(mDescription.toUtf8())
+{
+}
+
+QString RuntimeError::usualDescription(qint32 number)
+{
+    switch (number) {
+    case InvalidProcedureCall:
+        return QStringLiteral("Invalid procedure call or argument");
+    case Overflow:
+        return QStringLiteral("Overflow");
+    case OutOfMemory:
+        return QStringLiteral("Out of memory");
+    case SubscriptOutOfRange:
+        return QStringLiteral("Subscript out of range");
+    case DivisionByZero:
+        return QStringLiteral("Division by zero");
+    case TypeMismatch:
+        return QStringLiteral("Type mismatch");
+    case OutOfStringSpace:
+        return QStringLiteral("Out of string space");
+    case FileNotFound:
+        return QStringLiteral("File not found");
+    case DiskFull:
+        return QStringLiteral("Disk full");
+    case PermissionDenied:
+        return QStringLiteral("Permission denied");
+    case PathFileAccessError:
+        return QStringLiteral("Path/File access error");
+    case PathNotFound:
+        return QStringLiteral("Path not found");
+    case ObjectVariableNotSet:
+        return QStringLiteral("Object variable or With block variable not set");
+    case CannotCreateObject:
+        return QStringLiteral("ActiveX component can't create object");
+    default:
+        return QStringLiteral("Application-defined or object-defined error");
+    }
+}

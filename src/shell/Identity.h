@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+/// What the program says of itself.
+namespace Identity {
+
+inline constexpr int majorVersion = 11;
+inline constexpr int minorVersion = 1;
+inline constexpr int revision = 2;
+
+inline QString title()
+{
+    return QStringLiteral("Tessaly");
+}
+
+inline QString description()
+{
+    return QStringLiteral(
+        "This utility was built to supply various graphical tools to speed development and "
+        "maintenance of HFM applications.  No actual changes to the HFM application are made "
+        "directly by the utility.");
+}
+
+/// "Version 11.1.2"
+inline QString versionText()
+{
+    return QStringLiteral("Version %1.%2.%3").arg(majorVersion).arg(minorVersion).arg(revision);
+}
+
+} // namespace Identity

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// What a folder holds, read at once. Names come in alphabetical order, in any letter case; links
+/// count as what they point to.
+/// Both fail with RuntimeError PathNotFound, PermissionDenied or PathFileAccessError where the
+/// folder cannot be read; the description names it.
+namespace FileList {
+
+/// The names of the files that match the pattern. "*" stands for any characters and "?" for one,
+/// and letters then match in any case; a pattern without them is matched by that very name alone.
+QStringList files(const QString &folder, const QString &pattern);
+
+/// The names of the folders within the folder.
+QStringList folders(const QString &folder);
+
+} // namespace FileList

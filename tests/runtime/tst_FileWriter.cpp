@@ -1,6 +1,7 @@
-#include "FileFaults.h"
+
 #include "runtime/FileWriter.h"
 #include "runtime/RuntimeError.h"
+#include "support/FileFaults.h"
 
 #include <QDir>
 #include <QFile>

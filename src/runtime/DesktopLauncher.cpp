@@ -1,0 +1,55 @@
+#include "runtime/DesktopLauncher.h"
+
+#include "runtime/RuntimeError.h"
+
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+
+namespace {
+
+struct Command
+{
+    QString program;
+    QString path; ///< empty: none
+};
+
+Command parsed(const QString &commandLine)
+{
+    const qsizetype blank = commandLine.indexOf(QLatin1Char(' '));
+    if (blank < 0)
+        return {commandLine, {}};
+    QString path = commandLine.sliced(blank + 1);
+    path.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    return {commandLine.first(blank), path};
+}
+
+RuntimeError notFound(const QString &what)
+{
+    return RuntimeError(FileNotFound, QStringLiteral("Tessaly"),
+                        RuntimeError::usualDescription(FileNotFound) + QStringLiteral(": ") + what);
+}
+
+/// False when there is no such program on the PATH or it does not start.
+bool start(const QString &program, const QString &path)
+{
+    const QString executable = QStandardPaths::findExecutable(program);
+    const QStringList arguments = path.isEmpty() ? QStringList() : QStringList(path);
+    return !executable.isEmpty() && QProcess::startDetached(executable, arguments);
+}
+
+} // namespace
+
+void DesktopLauncher::run(const QString &commandLine)
+{
+    const auto [program, path] = parsed(commandLine);
+    const QString desktopViewer = QStringLiteral("xdg-open");
+    if (start(program, path))
+        return;
+    if (path.isEmpty())
+        throw notFound(program);
+    if (!QFileInfo(path).isFile())
+        throw notFound(path);
+    if (!start(desktopViewer, path))
+        throw notFound(program + QStringLiteral(", ") + desktopViewer);
+}

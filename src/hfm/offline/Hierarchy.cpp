@@ -62,9 +62,8 @@ QList<MemberId> Hierarchy::ancestors(MemberId member) const
             if (parent != rootMember && met.insert(parent).second)
                 found.append(parent);
     found.removeFirst();
-    std::sort(found.begin(), found.end(), [this](MemberId left, MemberId right) {
-        return mRanks[size_t(left)] < mRanks[size_t(right)];
-    });
+    std::sort(found.begin(), found.end(),
+              [this](MemberId left, MemberId right) { return rank(left) < rank(right); });
     return found;
 }
 

@@ -65,7 +65,9 @@ public:
     /// The direct parents in tree order, rootMember first where it is one. Not of rootMember.
     std::span<const MemberId> parents(MemberId member) const;
     /// Whether the member stands in the tree. Not of rootMember.
-    bool hasNode(MemberId member) const { return mRanks[size_t(member)] < mNodes; }
+    bool hasNode(MemberId member) const { return rank(member) < mNodes; }
+    /// The member's position in treeOrder(); those without a node come after. Not of rootMember.
+    qint32 rank(MemberId member) const { return mRanks[size_t(member)]; }
     /// Every member above `member`, each once, in tree order; those without a node last. Without
     /// rootMember.
     QList<MemberId> ancestors(MemberId member) const;
@@ -98,7 +100,7 @@ private:
 
     // By member.
     std::vector<quint32> mParentStarts = {0};
-    std::vector<qint32> mRanks; ///< position in tree order; the members without a node come last
+    std::vector<qint32> mRanks;
     std::vector<MemberId> mParents;
     qint32 mNodes = 0; ///< how many members have a node
 };

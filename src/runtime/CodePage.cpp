@@ -19,20 +19,22 @@ constexpr std::array<char16_t, specialsEnd - specialsBegin> specials = {
 
 /// Text is tested and copied by stretches of this length, which the compiler turns into a few
 /// vector instructions each. Almost all of them hold nothing but Latin-1.
-constexpr qsizetype stretch = 64;
+constexpr qsizetype stretch = 32;
 
-constexpr bool isSpecial(char16_t unit)
+template <typename Unit>
+constexpr bool isSpecial(Unit unit)
 {
-    return unit >= specialsBegin && unit < specialsEnd;
+    return (unit & ~0x1F) == specialsBegin;
 }
 
+/// Collects units, not truth values: a wider or narrower type would keep it from being vectorised.
 template <typename Unit>
 bool isPlain(const Unit *units)
 {
-    bool plain = true;
+    Unit strange = 0;
     for (qsizetype i = 0; i < stretch; ++i)
-        plain &= (units[i] <= 0xFF) & !isSpecial(units[i]);
-    return plain;
+        strange |= Unit((units[i] > 0xFF) | isSpecial(units[i]) ? ~0 : 0);
+    return strange == 0;
 }
 
 template <typename From, typename To>

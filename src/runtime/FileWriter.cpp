@@ -13,8 +13,9 @@
 
 namespace {
 
-/// So many characters are encoded at a time: a long text needs no second copy of itself in memory.
-constexpr qsizetype blockLength = 1 << 20;
+/// So many characters are encoded at a time: a long text needs no second copy of itself in memory,
+/// and what was encoded is still near the processor when it is written.
+constexpr qsizetype blockLength = 1 << 17;
 
 RuntimeError errorFor(qint32 number, const QString &path)
 {

@@ -2,7 +2,7 @@
 
 #include <QTest>
 
-#include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -61,6 +61,14 @@ private Q_SLOTS:
         const QString text = QString(QChar(0xD83D)) + QLatin1Char('a') + QChar(0xDE00) +
                              QChar(0xDE00) + QChar(0xD83D) + QChar(0xD83D);
         QCOMPARE(CodePage::encode(text), QByteArray("?a????"));
+    }
+
+    void nothingIsReadBehindTheText()
+    {
+        const std::vector<char16_t> half(1, 0xD83D);
+        QCOMPARE(CodePage::encode(QStringView(half.data(), 1)), QByteArray("?"));
+        const std::vector<char> bytes(33, '\x80');
+        QCOMPARE(CodePage::decode(QByteArrayView(bytes.data(), 33)), QString(33, QChar(0x20AC)));
     }
 
     void nothingIsNothing()

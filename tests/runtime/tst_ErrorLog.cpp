@@ -2,6 +2,7 @@
 #include "support/FileFaults.h"
 
 #include <QDir>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -132,6 +133,7 @@ private Q_SLOTS:
 
     void aFolderThatCannotBeWrittenSendsTheEntriesToStandardError()
     {
+        QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
         StandardError standardError;
         ErrorLog log(mFolder->path() + QStringLiteral("/missing/tessalyerror.log"));
         log.write(QString::fromUtf16(u"first caf\u00E9"));

@@ -10,7 +10,8 @@ namespace hfm {
 /// One of an application's twelve dimensions: its members, hierarchy and member lists.
 ///
 /// An ID that is neither a member of the dimension nor, where the operation takes it, rootMember
-/// fails with RuntimeError InvalidProcedureCall.
+/// fails with RuntimeError InvalidProcedureCall. All but the two of the default parent take
+/// rootMember: its label and description are empty, and what is below it is the whole dimension.
 class Dimension
 {
 public:
@@ -26,8 +27,10 @@ public:
     /// The ID of the list of that name, in any letter case; a name that is no list of the
     /// dimension fails with RuntimeError InvalidProcedureCall.
     virtual ListId GetMemberListId(const QString &listName) = 0;
-    /// The members of a list. `top` narrows a system list to the members below it; rootMember, and
-    /// an ID that is no member, narrow nothing.
+    /// The members of a list; an ID that is no list of the dimension fails with RuntimeError
+    /// InvalidProcedureCall. `top` narrows a system list to the members below it, "[Parents]" and
+    /// "[Ancestors]" to those above it; rootMember, and an ID that is no member, narrow nothing. A
+    /// user-defined list is never narrowed.
     virtual QList<MemberId> EnumMemberListMembers(ListId list, MemberId top) = 0;
 
     // Members.

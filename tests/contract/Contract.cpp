@@ -1,0 +1,30 @@
+#include "contract/Contract.h"
+
+#include "contract/AttributeContract.h"
+#include "contract/HierarchyContract.h"
+#include "contract/LogonContract.h"
+#include "contract/MemberContract.h"
+#include "contract/MemberListContract.h"
+#include "contract/SecurityContract.h"
+#include "contract/SessionContract.h"
+
+#include <QTest>
+
+namespace {
+
+template <typename... Contracts>
+int check(ClientUnderTest &client, int argc, char **argv)
+{
+    int failed = 0;
+    const auto one = [&](QObject &&contract) { failed += QTest::qExec(&contract, argc, argv); };
+    (one(Contracts(client)), ...);
+    return failed;
+}
+
+} // namespace
+
+int checkContract(ClientUnderTest &client, int argc, char **argv)
+{
+    return check<LogonContract, SessionContract, MemberContract, HierarchyContract,
+                 MemberListContract, AttributeContract, SecurityContract>(client, argc, argv);
+}

@@ -21,12 +21,6 @@ FakeDimension::FakeDimension(FakeKind kind, std::shared_ptr<FakeCalls> calls)
     : mKind(kind), mName(nameOf(kind)), mData(std::make_shared<FakeDimensionData>())
 {
     mData->calls = std::move(calls);
-    mLists = {{u"[Hierarchy]"_s, -1, Rule::Hierarchy, {}},
-              {u"[Descendants]"_s, -2, Rule::Descendants, {}},
-              {u"[Ancestors]"_s, -3, Rule::Ancestors, {}},
-              {u"[Base]"_s, -4, Rule::Base, {}},
-              {u"[Children]"_s, -5, Rule::Children, {}},
-              {u"[Parents]"_s, -6, Rule::Parents, {}}};
 }
 
 void FakeDimension::setMembers(const QString &outline)
@@ -59,18 +53,12 @@ void FakeDimension::setDefaultParent(const QString &label, const QString &parent
 
 void FakeDimension::addSystemList(const QString &name, const QStringList &labels)
 {
-    const auto userDefined =
-        std::find_if(mLists.begin(), mLists.end(), [](const List &list) { return list.id > 0; });
-    const hfm::ListId id = -1 - hfm::ListId(userDefined - mLists.begin());
-    mLists.insert(userDefined, {name, id, Rule::Given, idsOf(labels)});
+    mLists.value().addSystemList(name, idsOf(labels));
 }
 
 void FakeDimension::addUserList(const QString &name, const QStringList &labels)
 {
-    const hfm::ListId id =
-        1 + hfm::ListId(std::count_if(mLists.begin(), mLists.end(),
-                                      [](const List &list) { return list.id > 0; }));
-    mLists.append({name, id, Rule::Given, idsOf(labels)});
+    mLists.value().addUserList(name, idsOf(labels));
 }
 
 QString FakeDimension::GetDimensionName()
@@ -82,27 +70,22 @@ QString FakeDimension::GetDimensionName()
 QList<QString> FakeDimension::EnumMemberListNames()
 {
     mData->calls->enter("EnumMemberListNames"_L1);
-    QList<QString> names;
-    for (const List &list : mLists)
-        names.append(list.name);
-    return names;
+    return mLists ? mLists->names() : QStringList();
 }
 
 hfm::ListId FakeDimension::GetMemberListId(const QString &listName)
 {
     mData->calls->enter("GetMemberListId"_L1);
-    for (const List &list : mLists)
-        if (list.name.compare(listName, Qt::CaseInsensitive) == 0)
-            return list.id;
+    if (const auto id = mLists ? mLists->find(listName) : std::nullopt)
+        return *id;
     throw fakeClientError();
 }
 
-QList<MemberId> FakeDimension::EnumMemberListMembers(hfm::ListId id, MemberId top)
+QList<MemberId> FakeDimension::EnumMemberListMembers(hfm::ListId list, MemberId top)
 {
     mData->calls->enter("EnumMemberListMembers"_L1);
-    for (const List &list : mLists)
-        if (list.id == id)
-            return members(list, mData->members.contains(top) ? top : hfm::rootMember);
+    if (const auto found = mLists ? mLists->members(list, mData->members, top) : std::nullopt)
+        return *found;
     throw fakeClientError();
 }
 
@@ -187,14 +170,14 @@ QList<MemberId> FakeDimension::EnumBaseMembers(MemberId top, hfm::Distinct disti
 {
     mData->calls->enter("EnumBaseMembers"_L1);
     requireMemberOrRoot(top);
-    return below(top, distinct == hfm::EachMemberOnce, true);
+    return mData->members.below(top, distinct == hfm::EachMemberOnce, true);
 }
 
 QList<MemberId> FakeDimension::EnumMembersBelow(MemberId top, hfm::Distinct distinct)
 {
     mData->calls->enter("EnumMembersBelow"_L1);
     requireMemberOrRoot(top);
-    return below(top, distinct == hfm::EachMemberOnce, false);
+    return mData->members.below(top, distinct == hfm::EachMemberOnce, false);
 }
 
 QString FakeDimension::GetDefaultParentLabel(MemberId member)
@@ -276,50 +259,4 @@ void FakeDimension::requireMemberOrRoot(MemberId member) const
 {
     if (member != hfm::rootMember)
         requireMember(member);
-}
-
-QList<MemberId> FakeDimension::below(MemberId top, bool once, bool baseOnly) const
-{
-    QList<MemberId> found;
-    mData->members.walk(top, once, [&](MemberId, MemberId member, qint32) {
-        if (!baseOnly || mData->members.childrenOf(member).isEmpty())
-            found.append(member);
-    });
-    return found;
-}
-
-QList<MemberId> FakeDimension::above(MemberId member, bool direct) const
-{
-    QList<MemberId> found;
-    mData->members.walk(hfm::rootMember, true, [&](MemberId, MemberId candidate, qint32) {
-        const QList<MemberId> reached =
-            direct ? mData->members.childrenOf(candidate) : below(candidate, true, false);
-        if (reached.contains(member))
-            found.append(candidate);
-    });
-    return found;
-}
-
-QList<MemberId> FakeDimension::members(const List &list, MemberId top) const
-{
-    switch (list.rule) {
-    case Rule::Hierarchy:
-    case Rule::Descendants:
-        return below(top, true, false);
-    case Rule::Ancestors:
-        return above(top, false);
-    case Rule::Base:
-        return below(top, true, true);
-    case Rule::Children:
-        return mData->members.childrenOf(top);
-    case Rule::Parents:
-        return above(top, true);
-    case Rule::Given:
-        break;
-    }
-    if (list.id > 0 || top == hfm::rootMember)
-        return list.members;
-    QList<MemberId> narrowed = below(top, true, false);
-    narrowed.removeIf([&](MemberId member) { return !list.members.contains(member); });
-    return narrowed;
 }

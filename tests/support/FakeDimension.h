@@ -2,6 +2,7 @@
 
 #include "hfm/Dimension.h"
 #include "support/FakeAttributes.h"
+#include "support/FakeLists.h"
 
 /// The twelve dimensions, in the order of Metadata's accessors.
 enum class FakeKind {
@@ -43,7 +44,7 @@ public:
     /// A user-defined list; IDs are 1, 2, 3, ... in the order of adding.
     void addUserList(const QString &name, const QStringList &labels);
     /// Leaves the dimension without any list, the system lists included.
-    void clearLists() { mLists.clear(); }
+    void clearLists() { mLists.reset(); }
 
     // hfm::Dimension.
 
@@ -71,25 +72,13 @@ public:
     std::shared_ptr<hfm::CustomAttributes> customAttributes() override;
 
 private:
-    enum class Rule { Hierarchy, Descendants, Ancestors, Base, Children, Parents, Given };
-    struct List
-    {
-        QString name;
-        hfm::ListId id;
-        Rule rule;
-        QList<hfm::MemberId> members; ///< where the rule is Given
-    };
-
     hfm::MemberId idOf(const QString &label) const;
     QList<hfm::MemberId> idsOf(const QStringList &labels) const;
     void requireMember(hfm::MemberId member) const;
     void requireMemberOrRoot(hfm::MemberId member) const;
-    QList<hfm::MemberId> below(hfm::MemberId top, bool once, bool baseOnly) const;
-    QList<hfm::MemberId> above(hfm::MemberId member, bool direct) const;
-    QList<hfm::MemberId> members(const List &list, hfm::MemberId top) const;
 
     FakeKind mKind;
     QString mName;
     std::shared_ptr<FakeDimensionData> mData;
-    QList<List> mLists;
+    std::optional<FakeLists> mLists = FakeLists();
 };

@@ -84,3 +84,13 @@ void FakeMembers::walk(MemberId top, bool once, const Visit &visit) const
         push(step.member, step.depth + 1);
     }
 }
+
+QList<MemberId> FakeMembers::below(MemberId top, bool once, bool baseOnly) const
+{
+    QList<MemberId> found;
+    walk(top, once, [&](MemberId, MemberId member, qint32) {
+        if (!baseOnly || childrenOf(member).isEmpty())
+            found.append(member);
+    });
+    return found;
+}

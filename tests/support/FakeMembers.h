@@ -53,6 +53,8 @@ public:
     /// `once`, only the first occurrence of each member.
     using Visit = std::function<void(hfm::MemberId parent, hfm::MemberId member, qint32 depth)>;
     void walk(hfm::MemberId top, bool once, const Visit &visit) const;
+    /// The members that such a walk visits; with `baseOnly` only those without children.
+    QList<hfm::MemberId> below(hfm::MemberId top, bool once, bool baseOnly) const;
 
 private:
     QList<Member> mMembers;

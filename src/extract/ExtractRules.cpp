@@ -4,13 +4,13 @@ using namespace Qt::StringLiterals;
 
 namespace ExtractRules {
 
-std::optional<Delimiter> delimiter(const QString &tag, const Choices &choices)
+std::optional<ExtractIndicators> indicatorsFor(const QString &delimiterTag, const Choices &choices)
 {
-    const QString upper = tag.toUpper();
-    if (upper == u"COMMA")
-        return Delimiter{u","_s, choices.useIndicators ? choices.indicators : ExtractIndicators{}};
-    if (upper == u"TAB")
-        return Delimiter{u"\t"_s, {u"Dynamic"_s, u"Store"_s}};
+    const QString tag = delimiterTag.toUpper();
+    if (tag == u"COMMA")
+        return choices.useIndicators ? choices.typed : ExtractIndicators{};
+    if (tag == u"TAB")
+        return ExtractIndicators{u"Dynamic"_s, u"Store"_s};
     return std::nullopt;
 }
 

@@ -8,25 +8,19 @@
 /// The decisions of the extract window.
 namespace ExtractRules {
 
-/// What the window's controls hold when an extract is started.
+/// What the indicator controls hold when an extract is started.
 struct Choices
 {
     bool useIndicators = false;
-    ExtractIndicators indicators; ///< as typed
+    ExtractIndicators typed;
 };
 
-struct Delimiter
-{
-    /// Stands for the choice alone: extracts are always comma-separated.
-    QString text;
-    ExtractIndicators indicators; ///< those that an extract started with this choice uses
-};
+/// The indicators of an extract that is started with the delimiter option of that tag, in any
+/// letter case; nothing for a tag that is neither "COMMA" nor "TAB". The option decides on no more
+/// than this: extracts are always comma-separated.
+std::optional<ExtractIndicators> indicatorsFor(const QString &delimiterTag, const Choices &choices);
 
-/// What the delimiter option of that tag means; the tag is in any letter case. Nothing for a tag
-/// that is neither "COMMA" nor "TAB".
-std::optional<Delimiter> delimiter(const QString &tag, const Choices &choices);
-
-/// What the user is told when delimiter() gives nothing.
+/// What the user is told when indicatorsFor() gives nothing.
 Prompt unknownDelimiter();
 
 /// The text of an extract to show when "Show Header Row" is clicked.

@@ -5,8 +5,8 @@
 
 /// What a folder holds, read at once. Names come in alphabetical order, in any letter case; links
 /// count as what they point to.
-/// Both fail with RuntimeError PathNotFound, PermissionDenied or PathFileAccessError where the
-/// folder cannot be read; the description names it.
+/// The readers fail with RuntimeError PathNotFound, PermissionDenied or PathFileAccessError where
+/// the folder cannot be read; the description names it.
 namespace FileList {
 
 /// The names of the files that match the pattern. "*" stands for any characters and "?" for one,
@@ -15,5 +15,11 @@ QStringList files(const QString &folder, const QString &pattern);
 
 /// The names of the folders within the folder.
 QStringList folders(const QString &folder);
+
+/// Whether the folder holds a file of exactly that name, letter case included.
+bool hasFile(const QString &folder, const QString &name);
+
+/// A name as one line of a list can show it: control characters become their pictures.
+QString displayName(const QString &name);
 
 } // namespace FileList

@@ -11,48 +11,37 @@ class tst_ExtractRules : public QObject
 
 private:
     const ExtractIndicators mTyped = {u"Up"_s, u"Down"_s};
-    const ExtractIndicators mNone;
     const ExtractTexts mTexts = {u"rows"_s, u"header rows"_s};
 
 private Q_SLOTS:
     void commaTakesTheIndicatorsAsTypedWhereIndicatorsAreUsed()
     {
-        const auto rule = delimiter(u"COMMA"_s, {true, mTyped});
-        QVERIFY(rule);
-        QCOMPARE(rule->text, u","_s);
-        QVERIFY(rule->indicators == mTyped);
+        QCOMPARE(indicatorsFor(u"COMMA"_s, {true, mTyped}), mTyped);
     }
 
     void commaTakesNoIndicatorsWhereTheyAreNotUsed()
     {
-        const auto rule = delimiter(u"COMMA"_s, {false, mTyped});
-        QVERIFY(rule);
-        QCOMPARE(rule->text, u","_s);
-        QVERIFY(rule->indicators == mNone);
+        QCOMPARE(indicatorsFor(u"COMMA"_s, {false, mTyped}), ExtractIndicators());
     }
 
     void tabTakesDynamicAndStoreWhateverTheIndicatorsSay()
     {
-        for (bool use : {true, false}) {
-            const auto rule = delimiter(u"TAB"_s, {use, mTyped});
-            QVERIFY(rule);
-            QCOMPARE(rule->text, u"\t"_s);
-            QCOMPARE(rule->indicators.parent, u"Dynamic"_s);
-            QCOMPARE(rule->indicators.base, u"Store"_s);
-        }
+        const ExtractIndicators fixed = {u"Dynamic"_s, u"Store"_s};
+        QCOMPARE(indicatorsFor(u"TAB"_s, {true, mTyped}), fixed);
+        QCOMPARE(indicatorsFor(u"TAB"_s, {false, mTyped}), fixed);
     }
 
     void aTagIsComparedInUpperCase()
     {
-        QVERIFY(delimiter(u"comma"_s, {}));
-        QVERIFY(delimiter(u"Tab"_s, {}));
+        QVERIFY(indicatorsFor(u"comma"_s, {}));
+        QVERIFY(indicatorsFor(u"Tab"_s, {}));
     }
 
     void anyOtherTagIsAnError()
     {
-        QVERIFY(!delimiter(u"SEMICOLON"_s, {}));
-        QVERIFY(!delimiter(u""_s, {}));
-        QVERIFY(!delimiter(u" COMMA"_s, {}));
+        QVERIFY(!indicatorsFor(u"SEMICOLON"_s, {}));
+        QVERIFY(!indicatorsFor(u""_s, {}));
+        QVERIFY(!indicatorsFor(u" COMMA"_s, {}));
         const Prompt prompt = unknownDelimiter();
         QCOMPARE(prompt.title, u"Delimeter Option Error"_s);
         QCOMPARE(prompt.text, u"Unhandled error encountered while setting the Delimeter Option."_s);

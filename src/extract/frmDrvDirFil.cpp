@@ -1,0 +1,210 @@
+#include "extract/frmDrvDirFil.h"
+
+#include "extract/DriveList.h"
+#include "extract/FileList.h"
+#include "extract/FileModel.h"
+#include "extract/FolderModel.h"
+#include "extract/SaveRules.h"
+#include "runtime/FileWriter.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+frmDrvDirFil::frmDrvDirFil(Services &services, modGlobal &global, QWidget *parent)
+    : QDialog(parent), mServices(services), mGlobal(global), mPattern(global.gSaveFilePattern),
+      mDrives(DriveList::drives()), mFolders(new FolderModel(this)), mFiles(new FileModel(this))
+{
+    setObjectName(u"frmDrvDirFil"_s);
+    setWindowTitle(u"Tessaly - Save File..."_s);
+    setWindowModality(Qt::ApplicationModal);
+    setAttribute(Qt::WA_DeleteOnClose);
+    makeControls();
+    arrangeControls();
+    connectControls();
+    openFolder(mServices.programFolder);
+    mFileName->setFocus();
+}
+
+void frmDrvDirFil::WriteToFile()
+{
+    const QString name = fullFileName();
+    writeTextFile(name, mGlobal.gPendingText);
+    mServices.prompts.ask(SaveRules::fileSaved(name));
+    close();
+}
+
+void frmDrvDirFil::openFolder(const QString &folder)
+{
+    const QString path = QDir::cleanPath(folder);
+    const auto files = filesIn(path);
+    if (!files && !mFolder.isEmpty())
+        return;
+    showDrive(DriveList::driveOf(path, mDrives), path, files.value_or(QStringList()));
+}
+
+void frmDrvDirFil::keyPressEvent(QKeyEvent *event)
+{
+    // Enter saves from the name and presses a button; in the lists it would save by surprise.
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && !mFileName->hasFocus())
+        event->accept();
+    else
+        QDialog::keyPressEvent(event);
+}
+
+void frmDrvDirFil::makeControls()
+{
+    const auto prepare = [](auto *control, const QString &name, const QString &accessibleName) {
+        control->setObjectName(name);
+        control->setAccessibleName(accessibleName);
+        return control;
+    };
+    mDriveBox = prepare(new QComboBox, u"DriveBox"_s, u"Drive"_s);
+    for (const QString &drive : mDrives)
+        mDriveBox->addItem(FileList::displayName(drive), drive);
+
+    mDirbox = prepare(new QTreeView, u"Dirbox"_s, u"Folders"_s);
+    mDirbox->setModel(mFolders);
+    mDirbox->setHeaderHidden(true);
+    mDirbox->header()->setStretchLastSection(false);
+    mDirbox->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    mDirbox->setUniformRowHeights(true);
+
+    mFilebox = prepare(new QListView, u"Filebox"_s, u"Files"_s);
+    mFilebox->setModel(mFiles);
+    mFilebox->setUniformItemSizes(true);
+
+    mFileName = prepare(new QLineEdit, u"txtFileName"_s, u"File Name"_s);
+    mSave = prepare(new QPushButton(u"&Save"_s), u"cmdSave"_s, u"Save"_s);
+    mSave->setDefault(true);
+    mCancel = prepare(new QPushButton(u"Ca&ncel"_s), u"cmdCancel"_s, u"Cancel"_s);
+}
+
+void frmDrvDirFil::arrangeControls()
+{
+    auto *drive = new QWidget;
+    auto *driveLayout = new QVBoxLayout(drive);
+    driveLayout->setContentsMargins({});
+    driveLayout->addWidget(mDriveBox);
+    driveLayout->addWidget(mDirbox);
+
+    auto *lists = new QSplitter;
+    lists->addWidget(drive);
+    lists->addWidget(mFilebox);
+    lists->setChildrenCollapsible(false);
+
+    auto *caption = new QLabel(u"File Name: "_s);
+    caption->setObjectName(u"lblFileName"_s);
+    caption->setBuddy(mFileName);
+    auto *name = new QHBoxLayout;
+    name->addWidget(caption);
+    name->addWidget(mFileName);
+
+    auto *buttons = new QDialogButtonBox;
+    buttons->addButton(mSave, QDialogButtonBox::ActionRole);
+    buttons->addButton(mCancel, QDialogButtonBox::ActionRole);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(lists, 1);
+    layout->addLayout(name);
+    layout->addWidget(buttons);
+}
+
+void frmDrvDirFil::connectControls()
+{
+    ErrorTrap &trap = mServices.trap;
+    trap.connect(mDriveBox, &QComboBox::activated, this, [this] { changeDrive(); });
+    trap.connect(mDirbox->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                 [this] { changeFolder(); });
+    trap.connect(mFilebox, &QListView::clicked, this, [this] { takeFileName(); });
+    trap.connect(mFilebox->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                 [this] { takeFileName(); });
+    trap.connect(mSave, &QPushButton::clicked, this, [this] { save(); });
+    trap.connect(mCancel, &QPushButton::clicked, this, [this] { close(); });
+}
+
+/// Shows a drive's folders with one of them chosen, which is then the folder, and its files.
+void frmDrvDirFil::showDrive(const QString &drive, const QString &folder, const QStringList &files)
+{
+    mDrive = drive;
+    mFolder = folder;
+    mDriveBox->setCurrentIndex(mDriveBox->findData(drive));
+    mFolders->setDrive(drive);
+    const QModelIndex index = mFolders->find(folder);
+    mDirbox->setCurrentIndex(index);
+    mDirbox->expand(index);
+    mDirbox->scrollTo(index);
+    mFiles->setNames(files);
+}
+
+void frmDrvDirFil::changeDrive()
+{
+    const QString drive = mDriveBox->currentData().toString();
+    if (const auto files = filesIn(drive))
+        showDrive(drive, drive, *files);
+    else
+        mDriveBox->setCurrentIndex(mDriveBox->findData(mDrive));
+}
+
+void frmDrvDirFil::changeFolder()
+{
+    const QString folder = mFolders->path(mDirbox->selectionModel()->selectedIndexes().value(0));
+    if (folder.isEmpty() || folder == mFolder)
+        return;
+    if (const auto files = filesIn(folder)) {
+        mFolder = folder;
+        mFiles->setNames(*files);
+    } else {
+        mDirbox->setCurrentIndex(mFolders->find(mFolder));
+    }
+}
+
+void frmDrvDirFil::takeFileName()
+{
+    const QModelIndexList selected = mFilebox->selectionModel()->selectedIndexes();
+    if (!selected.isEmpty())
+        mFileName->setText(mFiles->name(selected.first()));
+}
+
+void frmDrvDirFil::save()
+{
+    const QString name = mFileName->text();
+    Prompts &prompts = mServices.prompts;
+    if (SaveRules::lacksListExtension(mGlobal.gSaveMode, name) &&
+        prompts.ask(SaveRules::listExtensionWarning()) != Prompts::Answer::Ok)
+        return;
+    if (SaveRules::fileExists(mFolder, name) &&
+        prompts.ask(SaveRules::overwriteQuestion(fullFileName())) != Prompts::Answer::Yes)
+        return;
+    WriteToFile();
+}
+
+/// The files of a folder; nothing where it cannot be read and the user gives up trying.
+std::optional<QStringList> frmDrvDirFil::filesIn(const QString &folder)
+{
+    for (;;) {
+        try {
+            return FileList::files(folder, mPattern);
+        } catch (const RuntimeError &error) {
+            if (mServices.prompts.ask(SaveRules::pathError(error)) != Prompts::Answer::Ok)
+                return std::nullopt;
+        }
+    }
+}
+
+QString frmDrvDirFil::fullFileName() const
+{
+    return SaveRules::fullFileName(mFolder, mFileName->text());
+}

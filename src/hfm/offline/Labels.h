@@ -1,0 +1,49 @@
+#pragma once
+
+#include "hfm/offline/Texts.h"
+#include "hfm/Values.h"
+
+namespace hfm::offline {
+
+/// Whether two labels are the same: letter case does not count.
+bool sameLabel(QByteArrayView left, QByteArrayView right);
+
+/// Labels, numbered from 0 in the order in which they were added, and found without case.
+class Labels
+{
+public:
+    explicit Labels(TextArena &arena) : mArena(&arena) {}
+
+    qint32 count() const { return qint32(mRefs.size()); }
+    QByteArrayView at(qint32 index) const { return mArena->at(mRefs[size_t(index)]); }
+    QString text(qint32 index) const { return mArena->text(mRefs[size_t(index)]); }
+    TextRef ref(qint32 index) const { return mRefs[size_t(index)]; }
+
+    /// The label's number, or -1.
+    qint32 find(QByteArrayView label) const;
+    /// The label's number; adds it where there is none of that name. Fails with RuntimeError
+    /// OutOfMemory when there are more than the numbers reach.
+    qint32 findOrAdd(QByteArrayView label);
+    /// The same, for a label that the arena holds already.
+    qint32 findOrAdd(TextRef label);
+
+    /// Numbers the labels anew: `newNumbers[i]` becomes the number of the label numbered i.
+    void renumber(const std::vector<qint32> &newNumbers);
+
+private:
+    struct Slot
+    {
+        quint32 hash;
+        qint32 index; ///< -1 where the slot is free
+    };
+
+    size_t slotFor(quint32 hash, QByteArrayView label) const;
+    qint32 put(size_t slot, quint32 hash, TextRef ref);
+    void growIfNeeded();
+
+    TextArena *mArena;
+    std::vector<TextRef> mRefs;
+    std::vector<Slot> mSlots;
+};
+
+} // namespace hfm::offline

@@ -1,0 +1,157 @@
+#include "hfm/offline/Survey.h"
+
+#include "hfm/offline/LineReader.h"
+#include "hfm/offline/ReadingError.h"
+#include "hfm/offline/Syntax.h"
+
+namespace hfm::offline {
+
+namespace {
+
+/// Finds the delimiter, which no file states: by the record of a top-level member, else by the
+/// comment that names the columns, else by a member's DefaultParent field.
+class DelimiterSearch
+{
+public:
+    void enterSection(QByteArrayView name)
+    {
+        mInHierarchy = sameWord(name, "HIERARCHIES");
+        mInMembers = sameWord(name, "MEMBERS");
+    }
+
+    void look(QByteArrayView line)
+    {
+        if (line.startsWith('\'')) {
+            if (!mByComment)
+                mByComment = afterLabel(line);
+        } else if (mInHierarchy) {
+            if (!mByTopMember)
+                mByTopMember = beforeTopMember(trimmed(line));
+        } else if (mInMembers && !mByDefaultParent) {
+            mByDefaultParent = beforeDefaultParent(line);
+        }
+    }
+
+    char result() const
+    {
+        for (const char found : {mByTopMember, mByComment, mByDefaultParent}) {
+            if (found)
+                return found;
+        }
+        return ';';
+    }
+
+private:
+    static char ifDelimiter(QByteArrayView text, qsizetype at)
+    {
+        return at >= 0 && at < text.size() && mayDelimit(text[at]) ? text[at] : '\0';
+    }
+
+    static char afterLabel(QByteArrayView comment)
+    {
+        constexpr QByteArrayView label = "'Label";
+        if (!sameWord(comment.first(std::min(label.size(), comment.size())), label))
+            return '\0';
+        return ifDelimiter(trimmed(comment.sliced(label.size())), 0);
+    }
+
+    /// A line that begins with "#root" has a parent, written out, unless the delimiter is '#'.
+    static char beforeTopMember(QByteArrayView record)
+    {
+        if (record.size() > rootLabel.size() &&
+            sameWord(record.first(rootLabel.size()), rootLabel)) {
+            const char next = trimmed(record.sliced(rootLabel.size())).front();
+            if (mayDelimit(next) && next != '#')
+                return '\0';
+        }
+        return ifDelimiter(record, 0);
+    }
+
+    static char beforeDefaultParent(QByteArrayView record)
+    {
+        constexpr QByteArrayView name = "DefaultParent=";
+        for (qsizetype at = 1; at + name.size() <= record.size(); ++at) {
+            const bool begins = record[at] == 'D' || record[at] == 'd';
+            if (begins && sameWord(record.sliced(at, name.size()), name)) {
+                const QByteArrayView before = trimmed(record.first(at));
+                if (const char found = ifDelimiter(before, before.size() - 1))
+                    return found;
+            }
+        }
+        return '\0';
+    }
+
+    bool mInHierarchy = false;
+    bool mInMembers = false;
+    char mByTopMember = '\0';
+    char mByComment = '\0';
+    char mByDefaultParent = '\0';
+};
+
+/// Takes from a header what the reading must know beforehand.
+void noteHeader(const SectionHeader &header, const LineReader &reader, Survey &survey,
+                QByteArray &customOrder)
+{
+    if (sameWord(header.name, "FILE_FORMAT") && sameWord(header.argument, "ADS"))
+        throw ReadingError(reader.fileName(), reader.number(),
+                           QStringLiteral("This is a flat file of another product "
+                                          "(!FILE_FORMAT=ADS), not of Financial Management."));
+    if (sameWord(header.name, "MEMBERS") || sameWord(header.name, "HIERARCHIES"))
+        survey.hasMetadata = true;
+    else if (sameWord(header.name, "CUSTOM_ORDER") && customOrder.isEmpty())
+        customOrder = header.argument.toByteArray();
+}
+
+QList<QByteArray> namesIn(QByteArrayView customOrder, char delimiter)
+{
+    constexpr qsizetype most = 256; // HFM itself stops well before
+    QList<QByteArray> names;
+    const QList<QByteArrayView> parts = splitNames(customOrder, delimiter);
+    for (const QByteArrayView name : parts) {
+        if (!name.isEmpty() && names.size() < most)
+            names.append(name.toByteArray());
+    }
+    return names;
+}
+
+} // namespace
+
+Survey surveyFile(QIODevice &device, const QString &fileName)
+{
+    constexpr qint64 startLength = 4096;
+    const QByteArray start = device.peek(startLength);
+    const EncodingOfStart found = encodingOfStart(start);
+    device.skip(found.markLength);
+
+    Survey survey;
+    survey.markLength = found.markLength;
+    survey.encoding = found.encoding;
+    // What is still unknown is single bytes; all that is looked for here is ASCII in either case.
+    LineReader reader(device, fileName, found.certain ? found.encoding : Encoding::Utf8);
+    Utf8Check utf8;
+    if (!found.certain)
+        reader.observe([&utf8](QByteArrayView piece) { utf8.feed(piece); });
+
+    DelimiterSearch delimiter;
+    QByteArray customOrder;
+    while (reader.next()) {
+        const QByteArrayView line = reader.line();
+        if (const auto header = sectionHeader(line)) {
+            delimiter.enterSection(header->name);
+            noteHeader(*header, reader, survey, customOrder);
+        } else if (!line.isEmpty()) {
+            delimiter.look(line);
+        }
+    }
+    survey.lines = reader.number();
+    survey.delimiter = delimiter.result();
+    if (!found.certain && utf8.isValid())
+        survey.encoding = Encoding::Utf8;
+    if (!found.certain)
+        customOrder = Transcoder(survey.encoding).toUtf8(customOrder);
+    if (!customOrder.isEmpty())
+        survey.customOrder = namesIn(customOrder, survey.delimiter);
+    return survey;
+}
+
+} // namespace hfm::offline

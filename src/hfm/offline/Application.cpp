@@ -1,0 +1,80 @@
+#include "hfm/offline/Application.h"
+
+#include "hfm/offline/Additions.h"
+#include "hfm/offline/SystemMembers.h"
+
+#include <limits>
+
+namespace hfm::offline {
+
+namespace {
+
+/// The languages that the profile lists, else those that descriptions are in, else English.
+void setLanguages(Application &application, const ApplicationDraft &draft)
+{
+    const Names &listed = draft.listedLanguages;
+    const Names &named = listed.count() > 0 ? listed : draft.languages;
+    constexpr qint32 most = std::numeric_limits<qint16>::max();
+    for (qint32 i = 0; i < std::min(named.count(), most); ++i) {
+        application.languages.append(named.text(i));
+        application.languageNumbers.push_back(draft.languages.find(named.at(i)));
+    }
+    if (application.languages.isEmpty()) {
+        application.languages = {QStringLiteral("English")};
+        application.languageNumbers = {-1};
+    }
+}
+
+/// Members keep a class that nobody defines, by its name.
+void warnOfUnknownClasses(const ApplicationDraft &draft)
+{
+    for (qint32 i = 0; i < draft.securityClasses.count(); ++i) {
+        const QByteArrayView name = draft.securityClasses.at(i);
+        const bool isListed = draft.listedClasses && draft.listedClasses->find(name) >= 0;
+        if (!isListed && !sameLabel(name, "[Default]"))
+            draft.warnings.add(draft.securityClasses.place(i), [&] {
+                return QStringLiteral("The security class %1 is nowhere defined.")
+                    .arg(quoted(name));
+            });
+    }
+}
+
+} // namespace
+
+std::shared_ptr<const Application> finishApplication(ApplicationDraft &draft,
+                                                     const ApplicationFiles &files, int currentYear)
+{
+    draft.pool.clear();
+    for (DimensionDraft &dimension : draft.dimensions)
+        dimension.putRecordsFirst();
+    Additions additions = addSystemMembers(draft, currentYear);
+    const Labels &values = draft.dimension(DimensionKind::Value).labels();
+    const MemberId noCurrency = values.find(noneLabel);
+    warnOfUnknownClasses(draft);
+
+    std::vector<StoredDimension> dimensions;
+    dimensions.reserve(allDimensionKinds.size());
+    for (const DimensionKind kind : allDimensionKinds)
+        dimensions.push_back(storeDimension(draft, kind, std::move(additions.lists[size_t(kind)])));
+    draft.arena->squeeze();
+    draft.descriptions.squeeze();
+
+    auto application =
+        std::make_shared<Application>(Application{files,
+                                                  {},
+                                                  nullptr,
+                                                  std::move(draft.descriptions),
+                                                  std::move(dimensions),
+                                                  {},
+                                                  {},
+                                                  std::move(draft.securityClasses),
+                                                  noCurrency,
+                                                  std::move(additions.entityCurrencies),
+                                                  std::move(additions.topMembers)});
+    setLanguages(*application, draft);
+    application->arena = std::move(draft.arena);
+    application->warnings = draft.warnings;
+    return application;
+}
+
+} // namespace hfm::offline

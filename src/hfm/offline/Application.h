@@ -1,0 +1,44 @@
+#pragma once
+
+#include "hfm/offline/Cluster.h"
+#include "hfm/offline/Names.h"
+#include "hfm/offline/StoredDimension.h"
+#include "hfm/offline/Warnings.h"
+
+#include <memory>
+
+namespace hfm::offline {
+
+/// An application as its files tell it. Nothing in it changes any more, so it may be shared.
+struct Application
+{
+    ApplicationFiles files;
+    Warnings warnings;
+
+    std::unique_ptr<TextArena> arena;
+    Descriptions descriptions;
+    std::vector<StoredDimension> dimensions; ///< by DimensionKind
+    QList<QString> languages;
+    /// By position in `languages`: the language's number in `descriptions`, or -1.
+    std::vector<qint32> languageNumbers;
+    Names securityClasses; ///< those that members have, by class ID
+
+    MemberId noCurrency; ///< the Value member of an entity that names no currency
+    /// The Value members that EntityRecord::currency counts.
+    std::vector<MemberId> entityCurrencies;
+    /// For each custom dimension, the members that AccountRecord::topMembers counts.
+    std::array<std::vector<MemberId>, 4> topMembers;
+
+    const StoredDimension &dimension(DimensionKind kind) const { return dimensions[size_t(kind)]; }
+};
+
+/// Makes the application of its draft, which is used up. `currentYear` is for an application that
+/// names no years. Fails with ReadingError where a hierarchy runs in a circle.
+std::shared_ptr<const Application>
+finishApplication(struct ApplicationDraft &draft, const ApplicationFiles &files, int currentYear);
+
+/// Reads an application's files. Fails with ReadingError where the metadata file cannot be read;
+/// what is wrong in the other files is a warning.
+std::shared_ptr<const Application> readApplication(const ApplicationFiles &files, int currentYear);
+
+} // namespace hfm::offline

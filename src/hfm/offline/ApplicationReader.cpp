@@ -1,0 +1,76 @@
+#include "hfm/offline/AppFile.h"
+#include "hfm/offline/Application.h"
+#include "hfm/offline/ReadingError.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <new>
+
+namespace hfm::offline {
+
+namespace {
+
+void openFile(QFile &file)
+{
+    if (file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return;
+    const bool isThere = QFileInfo::exists(file.fileName());
+    const qint32 number = !isThere                                        ? FileNotFound
+                          : file.error() == QFileDevice::PermissionsError ? PermissionDenied
+                                                                          : PathFileAccessError;
+    throw ReadingError(QFileInfo(file).fileName(), 0,
+                       QStringLiteral("The file cannot be opened: %1").arg(file.errorString()),
+                       number);
+}
+
+/// Reads a file that the application can do without.
+void readOptional(const QString &path, SourceFile source, ApplicationDraft &draft,
+                  void (*read)(QIODevice &, ApplicationDraft &))
+{
+    if (path.isEmpty())
+        return;
+    QFile file(path);
+    draft.warnings.setFileName(source, QFileInfo(path).fileName());
+    try {
+        openFile(file);
+        read(file, draft);
+    } catch (const ReadingError &error) {
+        draft.warnings.add(Place(source, error.line()), [&] { return error.reason(); });
+    }
+}
+
+std::shared_ptr<const Application> readFiles(const ApplicationFiles &files, int currentYear)
+{
+    Warnings warnings;
+    warnings.setFileName(SourceFile::Metadata, QFileInfo(files.metadata).fileName());
+    ApplicationDraft draft(warnings);
+    QFile metadata(files.metadata);
+    openFile(metadata);
+    readMetadataFile(metadata, draft);
+    readOptional(files.profile, SourceFile::Profile, draft, readProfileFile);
+    readOptional(files.security, SourceFile::Security, draft, readSecurityClasses);
+    return finishApplication(draft, files, currentYear);
+}
+
+} // namespace
+
+std::shared_ptr<const Application> readApplication(const ApplicationFiles &files, int currentYear)
+{
+    const QString name = QFileInfo(files.metadata).fileName();
+    if (files.isXml)
+        throw ReadingError(name, 0,
+                           QStringLiteral("Metadata in XML format cannot be read yet. Extract the "
+                                          "application in APP format."));
+    try {
+        return readFiles(files, currentYear);
+    } catch (const ReadingError &) {
+        throw;
+    } catch (const RuntimeError &error) {
+        throw ReadingError(name, 0, error.description(), error.number());
+    } catch (const std::bad_alloc &) {
+        throw ReadingError(name, 0, RuntimeError::usualDescription(OutOfMemory), OutOfMemory);
+    }
+}
+
+} // namespace hfm::offline

@@ -1,0 +1,75 @@
+#include "hfm/offline/HierarchySection.h"
+
+#include "hfm/offline/FieldValues.h"
+
+namespace hfm::offline {
+
+HierarchySection::HierarchySection(ApplicationDraft &draft, DimensionKind kind, char delimiter)
+    : mDraft(draft), mDimension(draft.dimension(kind)), mDelimiter(delimiter),
+      mKnownFields(isCustom(kind) ? 3 : 2)
+{
+}
+
+void HierarchySection::readColumns(const QList<QByteArrayView> &columns)
+{
+    for (qsizetype i = 0; i < columns.size(); ++i) {
+        if (sameWord(columns[i], "Parent"))
+            mParentIndex = i;
+        else if (sameWord(columns[i], "Child"))
+            mChildIndex = i;
+    }
+    mKnownFields = std::max(mKnownFields, columns.size());
+}
+
+void HierarchySection::readRecord(QByteArrayView line, Place place)
+{
+    mFields.split(line, mDelimiter);
+    mFirst = 0;
+    rejoinRoot();
+    const QByteArrayView childLabel = mFields.at(mFirst + mChildIndex);
+    if (childLabel.isEmpty()) {
+        mDraft.warnings.add(place, [&] {
+            return QStringLiteral("The line %1 names no child; it is left out.").arg(quoted(line));
+        });
+        return;
+    }
+    if (mFields.count() - mFirst > mKnownFields)
+        mDraft.warnings.add(place, [&] {
+            return QStringLiteral("The line has %1 fields where %2 are known; the last ones are "
+                                  "left out.")
+                .arg(QString::number(mFields.count() - mFirst), QString::number(mKnownFields));
+        });
+    else if (mKnownFields == 3 && !isNumber(mFields.at(mFirst + 2)))
+        mDraft.warnings.add(place, [&] {
+            return QStringLiteral("The weight %1 is no number.")
+                .arg(quoted(mFields.at(mFirst + 2)));
+        });
+    const MemberId parentId = parent(mFields.at(mFirst + mParentIndex), place);
+    mDimension.addEdge({parentId, child(childLabel, place)}, place);
+}
+
+/// In a file that is delimited by '#', the parent "#root" falls into an empty field and "root".
+void HierarchySection::rejoinRoot()
+{
+    if (mDelimiter == '#' && mFields.count() > mKnownFields && mFields.at(0).isEmpty() &&
+        sameWord(mFields.at(1), "root"))
+        mFirst = 1;
+}
+
+MemberId HierarchySection::parent(QByteArrayView label, Place place)
+{
+    if (label.isEmpty() || mFirst == 1 || sameWord(label, rootLabel))
+        return rootMember;
+    if (mLastParent == rootMember || mDimension.labels().at(mLastParent) != label)
+        mLastParent = mDimension.findOrAdd(label, Origin::Hierarchy, place);
+    return mLastParent;
+}
+
+MemberId HierarchySection::child(QByteArrayView label, Place place)
+{
+    const MemberId next = mDimension.nextIfNamed(mLastChild, label);
+    mLastChild = next >= 0 ? next : mDimension.findOrAdd(label, Origin::Hierarchy, place);
+    return mLastChild;
+}
+
+} // namespace hfm::offline

@@ -1,0 +1,44 @@
+#include "hfm/offline/SystemMembers.h"
+
+namespace hfm::offline {
+
+MemberAdder::MemberAdder(DimensionDraft &dimension)
+    : mDimension(dimension), mPlaced(size_t(dimension.count()))
+{
+    for (const Edge &edge : dimension.edges())
+        mPlaced[size_t(edge.child)] = true;
+}
+
+MemberId MemberAdder::add(QByteArrayView label, MemberId parent, bool placeThoseOfFiles)
+{
+    return place(mDimension.findOrAdd(label, Origin::Client, {}), parent, placeThoseOfFiles);
+}
+
+MemberId MemberAdder::add(TextRef label, MemberId parent, bool placeThoseOfFiles)
+{
+    return place(mDimension.findOrAdd(label, Origin::Client, {}), parent, placeThoseOfFiles);
+}
+
+MemberId MemberAdder::add(TextRef label, MemberId parent, const DescriptionRange &descriptions,
+                          bool placeThoseOfFiles)
+{
+    const MemberId id = add(label, parent, placeThoseOfFiles);
+    MemberDraft &member = mDimension.member(id);
+    if (member.origin == Origin::Client)
+        member.descriptions = descriptions;
+    return id;
+}
+
+MemberId MemberAdder::place(MemberId id, MemberId parent, bool placeThoseOfFiles)
+{
+    if (size_t(id) >= mPlaced.size())
+        mPlaced.resize(size_t(id) + 1);
+    const bool ours = mDimension.member(id).origin == Origin::Client;
+    if (!mPlaced[size_t(id)] && (ours || placeThoseOfFiles)) {
+        mPlaced[size_t(id)] = true;
+        mDimension.addEdge({parent, id}, {});
+    }
+    return id;
+}
+
+} // namespace hfm::offline

@@ -1,0 +1,158 @@
+#include "hfm/offline/SystemMembers.h"
+
+#include <array>
+
+namespace hfm::offline {
+
+namespace {
+
+struct ValueMember
+{
+    QByteArrayView label;
+    int parent; ///< position in the table; -1 for the top level
+    std::optional<SystemList> list;
+};
+
+constexpr ValueMember valueMembers[] = {
+    {"[None]", -1, std::nullopt},
+    {"[Contribution Total]", -1, SystemList::Totals},
+    {"[Contribution]", 1, std::nullopt},
+    {"[Proportion]", 2, std::nullopt},
+    {"[Parent Total]", 3, SystemList::Totals},
+    {"[Parent]", 4, std::nullopt},
+    {"<Parent Curr Total>", 5, SystemList::Totals},
+    {"<Parent Currency>", 6, std::nullopt},
+    {"<Entity Curr Total>", 7, SystemList::Totals},
+    {"<Entity Currency>", 8, SystemList::Inputs},
+    {"<Entity Curr Adjs>", 8, SystemList::Adjustments},
+    {"<Parent Curr Adjs>", 6, SystemList::Adjustments},
+    {"[Parent Adjs]", 4, SystemList::Adjustments},
+    {"[Elimination]", 2, std::nullopt},
+    {"[Contribution Adjs]", 1, SystemList::Adjustments},
+};
+
+/// Without their brackets, under which files may hold them as well.
+constexpr QByteArrayView systemAccounts[] = {
+    "Active",
+    "PCON",
+    "POWN",
+    "DOWN",
+    "PCTRL",
+    "Method",
+    "Consol1",
+    "Consol2",
+    "Consol3",
+    "SharesOwned",
+    "VotingOwned",
+    "SharesOutstanding",
+    "VotingOutstanding",
+    "Shares%Owned",
+    "Voting%Owned",
+};
+
+constexpr qint8 balance = 4;
+constexpr qint8 balanceRecurring = 11;
+
+/// The three members of one currency.
+void addCurrency(MemberAdder &adder, TextRef currency, QByteArrayView label,
+                 const DescriptionRange &descriptions, GivenLists &lists)
+{
+    const QByteArray name = label.toByteArray();
+    const MemberId total = adder.add(QByteArrayView(name + " Total"), rootMember);
+    const MemberId itself = adder.add(currency, total, descriptions);
+    const MemberId adjustments = adder.add(QByteArrayView(name + " Adjs"), total);
+    lists[SystemList::Totals].append(total);
+    lists[SystemList::DefaultCurrencies].append(itself);
+    lists[SystemList::Inputs].append(itself);
+    lists[SystemList::Adjustments].append(adjustments);
+}
+
+/// The file's account of that name, with or without the brackets, or the one that is added.
+MemberId systemAccount(QByteArrayView name, DimensionDraft &accounts, MemberAdder &adder)
+{
+    const QByteArray bracketed = '[' + name.toByteArray() + ']';
+    for (const QByteArrayView label : {QByteArrayView(bracketed), name}) {
+        const MemberId id = accounts.labels().find(label);
+        if (id >= 0)
+            return id;
+    }
+    const MemberId id = adder.add(QByteArrayView(bracketed), rootMember);
+    recordOf(accounts.accounts, id).type = name == "Active" ? balanceRecurring : balance;
+    return id;
+}
+
+} // namespace
+
+GivenLists addValues(ApplicationDraft &draft, const ListedNames &currencies)
+{
+    GivenLists lists;
+    MemberAdder adder(draft.dimension(DimensionKind::Value));
+    std::array<MemberId, std::size(valueMembers)> ids = {};
+    for (size_t i = 0; i < ids.size(); ++i) {
+        const ValueMember &value = valueMembers[i];
+        const MemberId parent = value.parent < 0 ? rootMember : ids[size_t(value.parent)];
+        ids[i] = adder.add(value.label, parent);
+        if (value.list)
+            lists[*value.list].append(ids[i]);
+    }
+    for (qint32 i = 0; i < currencies.names.count(); ++i)
+        addCurrency(adder, currencies.names.ref(i), currencies.names.at(i),
+                    currencies.descriptions[size_t(i)], lists);
+    return lists;
+}
+
+GivenLists addIntercompany(ApplicationDraft &draft)
+{
+    MemberAdder adder(draft.dimension(DimensionKind::ICP));
+    const MemberId top = adder.add(QByteArrayView("[ICP Top]"), rootMember);
+    const MemberId none = adder.add(QByteArrayView("[ICP None]"), top);
+    const MemberId entities = adder.add(QByteArrayView("[ICP Entities]"), top);
+    const DimensionDraft &all = draft.dimension(DimensionKind::Entity);
+    for (size_t i = 0; i < all.entities.size(); ++i) {
+        const auto id = MemberId(i);
+        if (all.entities[i].isICP)
+            adder.add(all.labels().ref(id), entities, all.member(id).descriptions);
+    }
+    return {{SystemList::System, {top, none, entities}}};
+}
+
+GivenLists addSystemAccounts(ApplicationDraft &draft)
+{
+    DimensionDraft &accounts = draft.dimension(DimensionKind::Account);
+    MemberAdder adder(accounts);
+    QList<MemberId> ids;
+    for (const QByteArrayView name : systemAccounts)
+        ids.append(systemAccount(name, accounts, adder));
+    return {{SystemList::System, ids}};
+}
+
+GivenLists addToCustom(ApplicationDraft &draft, DimensionKind custom, const ListedNames &currencies)
+{
+    GivenLists lists;
+    MemberAdder adder(draft.dimension(custom));
+    const auto addAll = [&](const ListedNames &listed, SystemList list) {
+        for (qint32 i = 0; i < listed.names.count(); ++i)
+            lists[list].append(
+                adder.add(listed.names.ref(i), rootMember, listed.descriptions[size_t(i)], false));
+    };
+    adder.add(noneLabel, rootMember, false);
+    if (custom == DimensionKind::Custom1 || custom == DimensionKind::Custom2)
+        addAll(currencies, SystemList::Currencies);
+    if (custom == DimensionKind::Custom1)
+        addAll(draft.methods, SystemList::ConsolMethods);
+    return lists;
+}
+
+GivenLists adjustmentEntities(const DimensionDraft &entities)
+{
+    GivenLists lists;
+    for (size_t i = 0; i < entities.entities.size(); ++i) {
+        if (entities.entities[i].allowAdjs)
+            lists[SystemList::AdjustmentEntities].append(MemberId(i));
+        if (entities.entities[i].allowAdjFromChildren)
+            lists[SystemList::ParentAdjustmentEntities].append(MemberId(i));
+    }
+    return lists;
+}
+
+} // namespace hfm::offline

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 /// What the program says of itself.
 namespace Identity {
@@ -26,6 +27,14 @@ inline QString description()
 inline QString versionText()
 {
     return QStringLiteral("Version %1.%2.%3").arg(majorVersion).arg(minorVersion).arg(revision);
+}
+
+/// Line by line, as both windows that name the program show it.
+inline QStringList disclaimer()
+{
+    return {QStringLiteral("This utility application is unsupported by Oracle."),
+            QStringLiteral("For questions and feedback see the project's issue tracker."),
+            QStringLiteral("if you wish to provide feedback, ask for enhancements and/or fixes. ")};
 }
 
 } // namespace Identity

@@ -1,0 +1,22 @@
+#pragma once
+
+/// When the main window counts as activated: as it becomes the active window for the first time,
+/// and when it becomes so from another window of this program. Coming back from a message box or
+/// from another program is no activation: a message that an activation shows would show itself
+/// again for ever.
+class ActivationRule
+{
+public:
+    enum class Window { Main, Other, MessageBox };
+
+    /// A window of this program has become the active one. True when that activates the main
+    /// window.
+    bool becomesActive(Window window);
+    /// No window of this program is the active one any more. Where the active one has been closed
+    /// (`closed`), the user is still on his way from it, whatever window the desktop turns to next.
+    void noneIsActive(bool closed);
+
+private:
+    bool mWasActive = false;
+    bool mComesFromOther = false; ///< the window before was another one of this program
+};

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "runtime/ErrorTrap.h"
+#include "shell/ActivationRule.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <functional>
+
+/// Watches which of the program's windows is the active one, and runs `activated` through the trap
+/// each time that `window` is activated as ActivationRule says.
+class frmActivation final : public QObject
+{
+    Q_OBJECT
+
+public:
+    frmActivation(QWidget *window, ErrorTrap &trap, std::function<void()> activated);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void windowActivated(QWidget *active);
+    void windowDeactivated(const QWidget *inactive);
+
+    QWidget *mWindow;
+    ErrorTrap &mTrap;
+    std::function<void()> mActivated;
+    ActivationRule mRule;
+};

@@ -1,0 +1,21 @@
+#!/usr/bin/env python3
+"""Makes the larger applications of the sample cluster: Meridian and Zenith.
+
+    make_samples.py [FOLDER]
+
+writes them into FOLDER, samples/Alderbrook where none is given. The same script always writes the
+same bytes. Comma, the small one, is written by hand.
+"""
+
+import sys
+from pathlib import Path
+
+sys.dont_write_bytecode = True
+
+from making.meridian import make_meridian  # noqa: E402
+from making.zenith import make_zenith  # noqa: E402
+
+if __name__ == "__main__":
+    CLUSTER = Path(sys.argv[1] if sys.argv[1:] else Path(__file__).parent / "Alderbrook")
+    make_meridian(CLUSTER / "Meridian")
+    make_zenith(CLUSTER)

@@ -1,0 +1,1 @@
+"""What the larger applications of the sample cluster are made of."""

@@ -17,10 +17,34 @@
 #include <QListView>
 #include <QPushButton>
 #include <QSplitter>
+#include <QStyledItemDelegate>
 #include <QTreeView>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Draws the items of a list with an icon before the text.
+class IconDelegate final : public QStyledItemDelegate
+{
+public:
+    IconDelegate(const QIcon &icon, QObject *parent) : QStyledItemDelegate(parent), mIcon(icon) {}
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->icon = mIcon;
+        option->features |= QStyleOptionViewItem::HasDecoration;
+        option->decorationSize = mIcon.actualSize(option->decorationSize);
+    }
+
+private:
+    QIcon mIcon;
+};
+
+} // namespace
 
 frmDrvDirFil::frmDrvDirFil(Services &services, modGlobal &global, QWidget *parent)
     : QDialog(parent), mServices(services), mGlobal(global), mPattern(global.gSaveFilePattern),
@@ -54,6 +78,12 @@ void frmDrvDirFil::openFolder(const QString &folder)
     showDrive(DriveList::driveOf(path, mDrives), path, files.value_or(QStringList()));
 }
 
+void frmDrvDirFil::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    mDirbox->scrollTo(mDirbox->currentIndex(), QAbstractItemView::PositionAtCenter);
+}
+
 void frmDrvDirFil::keyPressEvent(QKeyEvent *event)
 {
     // Enter saves from the name and presses a button; in the lists it would save by surprise.
@@ -73,10 +103,12 @@ void frmDrvDirFil::makeControls()
     };
     mDriveBox = prepare(new QComboBox, u"DriveBox"_s, u"Drive"_s);
     for (const QString &drive : mDrives)
-        mDriveBox->addItem(FileList::displayName(drive), drive);
+        mDriveBox->addItem(style()->standardIcon(QStyle::SP_DriveHDIcon),
+                           FileList::displayName(drive), drive);
 
     mDirbox = prepare(new QTreeView, u"Dirbox"_s, u"Folders"_s);
     mDirbox->setModel(mFolders);
+    mDirbox->setItemDelegate(new IconDelegate(style()->standardIcon(QStyle::SP_DirIcon), this));
     mDirbox->setHeaderHidden(true);
     mDirbox->header()->setStretchLastSection(false);
     mDirbox->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
@@ -84,7 +116,10 @@ void frmDrvDirFil::makeControls()
 
     mFilebox = prepare(new QListView, u"Filebox"_s, u"Files"_s);
     mFilebox->setModel(mFiles);
+    mFilebox->setItemDelegate(new IconDelegate(style()->standardIcon(QStyle::SP_FileIcon), this));
     mFilebox->setUniformItemSizes(true);
+    const int iconSize = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    mFilebox->setIconSize({iconSize, iconSize});
 
     mFileName = prepare(new QLineEdit, u"txtFileName"_s, u"File Name"_s);
     mSave = prepare(new QPushButton(u"&Save"_s), u"cmdSave"_s, u"Save"_s);
@@ -120,6 +155,7 @@ void frmDrvDirFil::arrangeControls()
     layout->addWidget(lists, 1);
     layout->addLayout(name);
     layout->addWidget(buttons);
+    resize(110 * fontMetrics().averageCharWidth(), 28 * fontMetrics().lineSpacing());
 }
 
 void frmDrvDirFil::connectControls()
@@ -145,7 +181,6 @@ void frmDrvDirFil::showDrive(const QString &drive, const QString &folder, const 
     const QModelIndex index = mFolders->find(folder);
     mDirbox->setCurrentIndex(index);
     mDirbox->expand(index);
-    mDirbox->scrollTo(index);
     mFiles->setNames(files);
 }
 

@@ -36,6 +36,7 @@ public:
     void openFolder(const QString &folder);
 
 protected:
+    void showEvent(QShowEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

@@ -103,6 +103,9 @@ void frmExtract::makeControls()
     mDimension = new QLabel;
     mDimension->setObjectName(u"lblDimension"_s);
     mDimension->setTextFormat(Qt::PlainText);
+    QFont heading = mDimension->font();
+    heading.setBold(true);
+    mDimension->setFont(heading);
     mUseIndicators = makeOptions(u"optUseIndicators"_s,
                                  {u"&Use Indicators"_s, u"&Don't Use Indicators"_s}, this);
     mParentIndicator = makeLineEdit(u"txtParentIndicator"_s, u"Dynamic"_s);
@@ -173,6 +176,7 @@ void frmExtract::arrangeControls()
     auto *content = new QWidget;
     content->setLayout(layout);
     setCentralWidget(content);
+    resize(120 * fontMetrics().averageCharWidth(), 38 * fontMetrics().lineSpacing());
 
     const QList<QWidget *> order = {mUseIndicators->button(0),
                                     mUseIndicators->button(1),

@@ -83,10 +83,9 @@ private:
     void appendRow(const QString &start, const QString &label, const QString &description,
                    const QString &end)
     {
-        const auto row = start % label % mBetween % description % end;
-        if (row.size() > mLongest - mText.size())
+        mText += start % label % mBetween % description % end;
+        if (mText.size() > mLongest)
             throw RuntimeError(OutOfStringSpace);
-        mText += row;
     }
 
     void openParent(hfm::MemberId id, const QString &label, const QString &description)

@@ -25,12 +25,15 @@ void setLanguages(Application &application, const ApplicationDraft &draft)
     }
 }
 
-/// Members keep a class that nobody defines, by its name.
+/// Members keep a class that nobody defines, by its name. Without a security file nothing tells
+/// which classes there are, and so none is amiss.
 void warnOfUnknownClasses(const ApplicationDraft &draft)
 {
+    if (!draft.listedClasses)
+        return;
     for (qint32 i = 0; i < draft.securityClasses.count(); ++i) {
         const QByteArrayView name = draft.securityClasses.at(i);
-        const bool isListed = draft.listedClasses && draft.listedClasses->find(name) >= 0;
+        const bool isListed = draft.listedClasses->find(name) >= 0;
         if (!isListed && !sameLabel(name, "[Default]"))
             draft.warnings.add(draft.securityClasses.place(i), [&] {
                 return QStringLiteral("The security class %1 is nowhere defined.")

@@ -129,11 +129,18 @@ private Q_SLOTS:
         QCOMPARE(view->GetEntitySecurityClassId(0), hfm::noClass);
     }
 
-    void nothingIsWrongInItButTheClassesThatNoSecurityFileLists()
+    void nothingIsWrongInItWhetherASecurityFileListsItsClassesOrThereIsNone()
     {
         const QByteArray security = "!SECURITY_CLASSES\nSC_GRP\nSC_US\nsc_fin\n[Default]\n";
         QCOMPARE(warningsOf(*readTexts({smallApplication, {}, security})), QStringList());
-        QCOMPARE(readText(smallApplication)->warnings.count(), 3);
+        QCOMPARE(warningsOf(*readText(smallApplication)), QStringList());
+    }
+
+    void aClassThatItsSecurityFileDoesNotListIsAWarning()
+    {
+        const QByteArray security = "!SECURITY_CLASSES\nSC_GRP\nsc_fin\n[Default]\n";
+        QCOMPARE(warningsOf(*readTexts({smallApplication, {}, security})),
+                 QStringList{u"Test.app:16: The security class 'SC_US' is nowhere defined."_s});
     }
 };
 

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QWidget>
+
+/// What a person does to a window's controls, which are found by their names. A control that is
+/// not there or cannot be used ends the program with a message: the journey is lost.
+namespace Hands {
+
+/// A click in the middle of the control, queued so that a modal window it opens keeps nobody
+/// waiting.
+void click(QWidget &window, const char *control);
+/// Replaces the text of a text box or of an editable combo box.
+void type(QWidget &window, const char *control, const QString &text);
+/// Chooses the entry of that text in a combo box or a list, as a click on it does.
+void choose(QWidget &window, const char *control, const QString &entry);
+/// Triggers a menu entry, queued like click().
+void menu(QWidget &window, const char *action);
+
+/// What a control shows: a label's, button's or box's text, or the `text` property.
+QString text(QWidget &window, const char *control);
+bool isEnabled(QWidget &window, const char *control);
+
+} // namespace Hands

@@ -39,7 +39,8 @@ void chooseIn(QComboBox &box, const QString &entry)
 {
     const int index = box.findText(entry, Qt::MatchExactly);
     if (index < 0)
-        lost(*box.window(), qPrintable(box.objectName()), qPrintable(u"has no entry " + entry));
+        lost(*box.window(), qPrintable(box.objectName()),
+             qPrintable(QStringLiteral("has no entry ") + entry));
     box.setFocus();
     QTest::keyClick(&box, Qt::Key_Home);
     box.setCurrentIndex(index);
@@ -52,7 +53,8 @@ void chooseIn(QAbstractItemView &view, const QString &entry)
     const QModelIndexList found =
         model.match(model.index(0, 0), Qt::DisplayRole, entry, 1, Qt::MatchExactly);
     if (found.isEmpty())
-        lost(*view.window(), qPrintable(view.objectName()), qPrintable(u"has no entry " + entry));
+        lost(*view.window(), qPrintable(view.objectName()),
+             qPrintable(QStringLiteral("has no entry ") + entry));
     view.scrollTo(found.first());
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(found.first()).center());
 }

@@ -1,5 +1,7 @@
 #include "Journey.h"
 
+#include "Hands.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QMessageBox>
@@ -46,10 +48,17 @@ void Journey::on(const QString &window, const QString &what, Action action)
          [window, action = std::move(action)] { action(*windowTakingInput(window)); }});
 }
 
-void Journey::when(const QString &what, std::function<bool()> condition,
-                   std::function<void()> action)
+void Journey::once(const QString &window, const char *control,
+                   std::function<bool(const QString &text)> expected, const QString &what,
+                   Action action)
 {
-    mSteps.push_back({what, std::move(condition), std::move(action)});
+    const auto ready = [window, control, expected = std::move(expected)] {
+        QWidget *found = windowTakingInput(window);
+        return found != nullptr && expected(Hands::text(*found, control));
+    };
+    mSteps.push_back({what, ready, [window, action = std::move(action)] {
+                          action(*windowTakingInput(window));
+                      }});
 }
 
 void Journey::start()

@@ -23,8 +23,10 @@ public:
     /// Adds a step for the top-level window of that object name. A message box goes by
     /// "QMessageBox".
     void on(const QString &window, const QString &what, Action action);
-    /// Adds a step that comes when `condition` holds, whatever window is there.
-    void when(const QString &what, std::function<bool()> condition, std::function<void()> action);
+    /// Adds a step for that window that comes once the text of one of its controls is `expected`.
+    void once(const QString &window, const char *control,
+              std::function<bool(const QString &text)> expected, const QString &what,
+              Action action);
 
     /// Begins; the program ends with exit code 1 when a step does not come within its time or
     /// fails a check.

@@ -1,0 +1,141 @@
+#include "hfm/offline/dlgOfflineOpen.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QGridLayout>
+#include <QLabel>
+#include <QListView>
+#include <QPushButton>
+#include <QScopeGuard>
+#include <QShortcut>
+#include <QStringListModel>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace hfm::offline {
+
+namespace {
+
+/// The selected lines of a list, one a line, in the list's order.
+void copySelection(const QListView &list)
+{
+    QModelIndexList rows = list.selectionModel()->selectedIndexes();
+    std::sort(rows.begin(), rows.end());
+    QStringList lines;
+    for (const QModelIndex &row : rows)
+        lines.append(row.data().toString());
+    if (!lines.isEmpty())
+        QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+}
+
+} // namespace
+
+dlgOfflineOpen::dlgOfflineOpen(const QString &clusterFolder, const Clock &clock, ErrorTrap &trap,
+                               QWidget *parent)
+    : QDialog(parent), mChoices(clusterFolder, clock), mNames(new QStringListModel(this)),
+      mWarningLines(new QStringListModel(this)), mApplications(new QListView(this)),
+      mSummary(new QLabel(this)), mWarnings(new QListView(this)), mOk(new QPushButton(this)),
+      mCancel(new QPushButton(this))
+{
+    setObjectName(QStringLiteral("dlgOfflineOpen"));
+    setWindowTitle(tr("Open Application"));
+    makeControls(clusterFolder);
+    arrangeControls();
+    connectControls(trap);
+    trap.run([this] { mApplications->setCurrentIndex(mNames->index(0)); });
+}
+
+void dlgOfflineOpen::makeControls(const QString &clusterFolder)
+{
+    mNames->setStringList(mChoices.names());
+    mApplications->setObjectName(QStringLiteral("lstApplications"));
+    mApplications->setAccessibleName(tr("Applications"));
+    mApplications->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    mApplications->setUniformItemSizes(true);
+    mApplications->setModel(mNames);
+
+    mSummary->setObjectName(QStringLiteral("lblApplicationSummary"));
+    mSummary->setAccessibleName(tr("What the application holds"));
+    mSummary->setTextFormat(Qt::PlainText);
+    mSummary->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    mSummary->setWordWrap(true);
+    mSummary->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    mSummary->setText(tr("There is no application in the folder '%1'.")
+                          .arg(QDir::toNativeSeparators(clusterFolder)));
+
+    mWarnings->setObjectName(QStringLiteral("lstWarnings"));
+    mWarnings->setAccessibleName(tr("Warnings"));
+    mWarnings->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    mWarnings->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    mWarnings->setUniformItemSizes(true);
+    mWarnings->setModel(mWarningLines);
+
+    mOk->setObjectName(QStringLiteral("cmdOpenOk"));
+    mOk->setText(tr("OK"));
+    mOk->setDefault(true);
+    mOk->setEnabled(false);
+    mCancel->setObjectName(QStringLiteral("cmdOpenCancel"));
+    mCancel->setText(tr("Cancel"));
+}
+
+void dlgOfflineOpen::arrangeControls()
+{
+    auto *applicationsLabel = new QLabel(tr("&Applications:"), this);
+    applicationsLabel->setBuddy(mApplications);
+    auto *warningsLabel = new QLabel(tr("&Warnings:"), this);
+    warningsLabel->setBuddy(mWarnings);
+    auto *buttons = new QDialogButtonBox(this);
+    buttons->addButton(mOk, QDialogButtonBox::AcceptRole);
+    buttons->addButton(mCancel, QDialogButtonBox::RejectRole);
+
+    auto *grid = new QGridLayout;
+    grid->addWidget(applicationsLabel, 0, 0);
+    grid->addWidget(mApplications, 1, 0);
+    grid->addWidget(mSummary, 1, 1);
+    grid->setColumnStretch(0, 1);
+    grid->setColumnStretch(1, 2);
+    auto *layout = new QVBoxLayout(this);
+    layout->addLayout(grid, 2);
+    layout->addWidget(warningsLabel);
+    layout->addWidget(mWarnings, 1);
+    layout->addWidget(buttons);
+    resize(fontMetrics().averageCharWidth() * 100, fontMetrics().lineSpacing() * 32);
+    mApplications->setFocus();
+}
+
+void dlgOfflineOpen::connectControls(ErrorTrap &trap)
+{
+    trap.connect(mApplications->selectionModel(), &QItemSelectionModel::currentChanged, this,
+                 [this] { showCurrent(); });
+    trap.connect(mApplications, &QListView::doubleClicked, this, [this] { confirm(); });
+    trap.connect(mOk, &QPushButton::clicked, this, [this] { confirm(); });
+    trap.connect(mCancel, &QPushButton::clicked, this, [this] { reject(); });
+    auto *copy = new QShortcut(QKeySequence::Copy, mWarnings, nullptr, nullptr, Qt::WidgetShortcut);
+    trap.connect(copy, &QShortcut::activated, this, [this] { copySelection(*mWarnings); });
+}
+
+void dlgOfflineOpen::showCurrent()
+{
+    const QModelIndex current = mApplications->currentIndex();
+    if (!current.isValid())
+        return;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const auto pointerBack = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
+    mApplication.reset(); // two large applications need not be in memory at a time
+    ApplicationPreview preview = mChoices.read(current.row());
+    mApplication = std::move(preview.application);
+    mSummary->setText(preview.summary);
+    mWarningLines->setStringList(preview.warnings);
+    mOk->setEnabled(mApplication != nullptr);
+}
+
+void dlgOfflineOpen::confirm()
+{
+    if (mApplication != nullptr)
+        accept();
+}
+
+} // namespace hfm::offline

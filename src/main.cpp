@@ -1,0 +1,68 @@
+#include "extract/frmExtract.h"
+#include "hfm/offline/dlgOfflineDialogs.h"
+#include "hfm/offline/OfflineClient.h"
+#include "runtime/DesktopLauncher.h"
+#include "runtime/dlgPrompts.h"
+#include "runtime/QtProgram.h"
+#include "shell/frmIdentity.h"
+#include "shell/frmMain.h"
+#include "shell/frmSplash.h"
+#include "shell/Identity.h"
+#include "shell/StartUp.h"
+#include "shell/WindowInstance.h"
+
+#include <QApplication>
+
+namespace {
+
+/// A main window's tool: its one window, loaded when it is not.
+template <typename Window>
+frmMain::Tool toolOf(WindowInstance<Window> &instance)
+{
+    return [&instance] { return instance.window(); };
+}
+
+void introduce(QApplication &application)
+{
+    application.setApplicationName(Identity::title());
+    application.setApplicationVersion(QStringLiteral("%1.%2.%3")
+                                          .arg(Identity::majorVersion)
+                                          .arg(Identity::minorVersion)
+                                          .arg(Identity::revision));
+    application.setDesktopFileName(QStringLiteral("tessaly"));
+    application.setWindowIcon(frmIdentity::icon());
+    // The splash closes before there is a main window; the program goes on all the same.
+    application.setQuitOnLastWindowClosed(false);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    introduce(application);
+
+    QtProgram program;
+    dlgPrompts prompts(program);
+    ErrorTrap trap(prompts, program);
+    SystemClock clock;
+    DesktopLauncher launcher;
+    const QString programFolder = QCoreApplication::applicationDirPath();
+    hfm::offline::OfflineDialogs dialogs(hfm::offline::findSampleCluster(programFolder), clock,
+                                         trap);
+    hfm::offline::OfflineClientFactory clients(dialogs, dialogs);
+    Services services{clients, prompts, launcher, clock, program, trap, programFolder};
+
+    modGlobal global;
+    WindowInstance<frmExtract> extract([&] { return new frmExtract(services, global); });
+    WindowInstance<frmMain> mainWindow([&] {
+        return new frmMain(global, services, {{}, toolOf(extract), {}, {}});
+    });
+
+    startUp(services, {[&] { frmSplash(services).showModal(); },
+                       [&] {
+                           mainWindow.window()->show();
+                           application.setQuitOnLastWindowClosed(true);
+                       }});
+    return program.run();
+}

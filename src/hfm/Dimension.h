@@ -37,7 +37,7 @@ public:
 
     virtual QString GetMemberLabel(MemberId member) = 0;
     /// The description in the language at that 0-based position of Metadata::GetLanguages; empty
-    /// where none is stored.
+    /// where none is stored, and so in a language that the application does not have.
     virtual QString GetMemberDescription(MemberId member, qint16 language) = 0;
     /// The ID of a label, in any letter case; an unknown one fails with RuntimeError
     /// InvalidProcedureCall and "'LABEL' is not a member of DIMENSION.".

@@ -11,7 +11,7 @@
 ///       [None]                            PL - Result          [None]
 ///       GROUP - Group - Groupe              SALES - Sales      CLO - Closing
 ///         EAST - East                       COST - Costs         OPE - Opening
-///           E1 - Unit 1, East - Unité 1
+///           E1 - Unit 1, East - Unité 1                        Éco
 ///           E2 - Unit 2                 Period
 ///         WEST - West                     [Year]
 ///           E2 (shared)                     Q1

@@ -26,7 +26,7 @@ void fillHierarchies(FakeApplication &application)
     entity.setDefaultParent(u"E2"_s, u"WEST"_s);
     application.account().setMembers(u"PL|Result\n  SALES|Sales\n  COST|Costs\n"_s);
     application.value().setMembers(u"[None]\nEUR Total\n  EUR\n  EUR Adjs\nUSD Total\n  USD\n"_s);
-    application.custom(1).setMembers(u"[None]\nCLO|Closing\n  OPE|Opening\n"_s);
+    application.custom(1).setMembers(u"[None]\nCLO|Closing\n  OPE|Opening\nÉco\n"_s);
     for (const int number : {2, 3, 4})
         application.custom(number).setMembers(u"[None]\n"_s);
     application.dimension(FakeKind::Period)

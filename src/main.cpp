@@ -25,6 +25,7 @@ frmMain::Tool toolOf(WindowInstance<Window> &instance)
 void introduce(QApplication &application)
 {
     application.setApplicationName(Identity::title());
+    application.setOrganizationName(Identity::title()); // names the folder of the user's settings
     application.setApplicationVersion(QStringLiteral("%1.%2.%3")
                                           .arg(Identity::majorVersion)
                                           .arg(Identity::minorVersion)

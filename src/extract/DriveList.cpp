@@ -8,8 +8,10 @@ namespace DriveList {
 QStringList drives()
 {
     QStringList volumes;
-    for (const QStorageInfo &volume : QStorageInfo::mountedVolumes())
-        volumes.append(volume.rootPath());
+    for (const QStorageInfo &volume : QStorageInfo::mountedVolumes()) {
+        if (!QFileInfo(volume.rootPath()).isFile()) // containers mount single files too
+            volumes.append(volume.rootPath());
+    }
     volumes.sort();
     QStringList all = QStringList{QDir::rootPath(), QDir::homePath()} + volumes;
     all.removeDuplicates();

@@ -102,6 +102,8 @@ void frmDrvDirFil::makeControls()
         return control;
     };
     mDriveBox = prepare(new QComboBox, u"DriveBox"_s, u"Drive"_s);
+    mDriveBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    mDriveBox->setMinimumContentsLength(16);
     for (const QString &drive : mDrives)
         mDriveBox->addItem(style()->standardIcon(QStyle::SP_DriveHDIcon),
                            FileList::displayName(drive), drive);

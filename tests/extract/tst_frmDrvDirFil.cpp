@@ -1,5 +1,6 @@
 #include "extract/frmDrvDirFil.h"
 #include "support/FakeServices.h"
+#include "support/FileFaults.h"
 
 #include <QAccessible>
 #include <QComboBox>
@@ -462,6 +463,39 @@ private Q_SLOTS:
         clickSave();
         QCOMPARE(mFake->prompts.asked.size(), 1);
         QVERIFY(mFake->prompts.asked[0].text.startsWith(u"Run-time error '75'"_s));
+    }
+
+    void aDiskThatFillsUpEndsTheProgramAndLeavesTheOldFile()
+    {
+        mGlobal->gPendingText = QString(100000, u'x');
+        clickFile(u"b.txt"_s);
+        {
+            const FullDisk disk(50000);
+            clickSave();
+        }
+        QCOMPARE(askedTitles(), (QStringList{u"File Exists"_s, u"Tessaly"_s}));
+        QVERIFY(mFake->prompts.asked[1].text.startsWith(u"Run-time error '61':\r\n\r\n"_s));
+        QCOMPARE(mFake->program.endCodes, QList<int>{1});
+        QCOMPARE(contentOf(program(u"b.txt"_s)), QByteArray("old"));
+        QCOMPARE(QDir(program()).entryList(QDir::Files | QDir::Hidden).size(), 3);
+    }
+
+    void aFolderWithoutTheRightToWriteEndsTheProgram()
+    {
+        typeName(u"new.txt"_s);
+        OrdinaryUser::own(mHome->path());
+        QVERIFY(QFile::setPermissions(program(), QFile::ReadOther | QFile::ExeOther |
+                                                     QFile::ReadOwner | QFile::ExeOwner));
+        {
+            const OrdinaryUser user;
+            clickSave();
+        }
+        QVERIFY(QFile::setPermissions(program(),
+                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        QCOMPARE(mFake->prompts.asked.size(), 1);
+        QVERIFY(mFake->prompts.asked[0].text.startsWith(u"Run-time error '70':\r\n\r\n"_s));
+        QCOMPARE(mFake->program.endCodes, QList<int>{1});
+        QVERIFY(!QFile::exists(program(u"new.txt"_s)));
     }
 
     void writeToFileWritesWithoutAQuestion()

@@ -1,15 +1,16 @@
 #include "shell/ActivationRule.h"
 
-bool ActivationRule::becomesActive(Window window)
+bool ActivationRule::becomesActive(Window window, bool previousIsGone)
 {
-    const bool activated = window == Window::Main && (!mWasActive || mComesFromOther);
+    const bool comesFromOther = mComesFromOther && (!mHasLeft || previousIsGone);
+    const bool activated = window == Window::Main && (!mWasActive || comesFromOther);
     mWasActive = mWasActive || window == Window::Main;
     mComesFromOther = window == Window::Other;
+    mHasLeft = false;
     return activated;
 }
 
-void ActivationRule::noneIsActive(bool closed)
+void ActivationRule::noneIsActive()
 {
-    if (!closed)
-        mComesFromOther = false;
+    mHasLeft = true;
 }

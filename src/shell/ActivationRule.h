@@ -10,13 +10,15 @@ public:
     enum class Window { Main, Other, MessageBox };
 
     /// A window of this program has become the active one. True when that activates the main
-    /// window.
-    bool becomesActive(Window window);
-    /// No window of this program is the active one any more. Where the active one has been closed
-    /// (`closed`), the user is still on his way from it, whatever window the desktop turns to next.
-    void noneIsActive(bool closed);
+    /// window. `previousIsGone`: the window that was active before, here or before the user went
+    /// to another program, has been closed; he is still on his way from it then, whatever the
+    /// desktop has turned to in between.
+    bool becomesActive(Window window, bool previousIsGone = false);
+    /// No window of this program is the active one any more.
+    void noneIsActive();
 
 private:
     bool mWasActive = false;
     bool mComesFromOther = false; ///< the window before was another one of this program
+    bool mHasLeft = false;        ///< and none was active since
 };

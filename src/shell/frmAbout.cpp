@@ -56,7 +56,7 @@ void frmAbout::makeControls()
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
 
     auto *layout = new QGridLayout(this);
-    layout->addWidget(frmIdentity::makeLogo(this), 0, 0, Qt::AlignTop);
+    layout->addWidget(frmIdentity::makeLogo(6, this), 0, 0, Qt::AlignTop);
     layout->addLayout(texts, 0, 1);
     layout->addWidget(ok, 1, 1, Qt::AlignRight);
     layout->setHorizontalSpacing(fontMetrics().height());

@@ -12,11 +12,12 @@ frmActivation::frmActivation(QWidget *window, ErrorTrap &trap, std::function<voi
 
 bool frmActivation::eventFilter(QObject *watched, QEvent *event)
 {
-    const bool activates = event->type() == QEvent::WindowActivate;
-    if (activates || event->type() == QEvent::WindowDeactivate) {
+    if (event->type() == QEvent::WindowActivate) {
         auto *widget = qobject_cast<QWidget *>(watched);
         if (widget && widget->isWindow())
-            activates ? windowActivated(widget) : windowDeactivated(widget);
+            windowActivated(widget);
+    } else if (event->type() == QEvent::WindowDeactivate && !QApplication::activeWindow()) {
+        mRule.noneIsActive();
     }
     return QObject::eventFilter(watched, event);
 }
@@ -31,14 +32,10 @@ void frmActivation::windowActivated(QWidget *active)
         kind = ActivationRule::Window::Main;
     else if (qobject_cast<QMessageBox *>(active))
         kind = ActivationRule::Window::MessageBox;
+    const bool previousIsGone = !mActive || !mActive->isVisible();
+    mActive = active;
     // What an activation does may show a message, which Qt cannot do while it changes windows.
-    if (mRule.becomesActive(kind))
+    if (mRule.becomesActive(kind, previousIsGone))
         QMetaObject::invokeMethod(
             this, [this] { mTrap.run(mActivated); }, Qt::QueuedConnection);
-}
-
-void frmActivation::windowDeactivated(const QWidget *inactive)
-{
-    if (!QApplication::activeWindow())
-        mRule.noneIsActive(!inactive->isVisible());
 }

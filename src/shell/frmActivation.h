@@ -21,9 +21,9 @@ public:
 
 private:
     void windowActivated(QWidget *active);
-    void windowDeactivated(const QWidget *inactive);
 
     QWidget *mWindow;
+    QPointer<QWidget> mActive; ///< the window that was made the active one last
     ErrorTrap &mTrap;
     std::function<void()> mActivated;
     ActivationRule mRule;

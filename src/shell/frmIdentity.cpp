@@ -19,9 +19,8 @@ QIcon icon()
     return QIcon(QStringLiteral(":/shell/images/tessaly.svg"));
 }
 
-QLabel *makeLogo(QWidget *parent)
+QLabel *makeLogo(int lines, QWidget *parent)
 {
-    constexpr int lines = 6;
     auto *logo = new QLabel(parent);
     const int side = logo->fontMetrics().height() * lines;
     logo->setObjectName(QStringLiteral("picLogo"));
@@ -32,12 +31,15 @@ QLabel *makeLogo(QWidget *parent)
 
 void addDisclaimer(QBoxLayout *layout, QWidget *parent)
 {
+    auto *lines = new QVBoxLayout;
+    lines->setSpacing(parent->fontMetrics().descent());
     int index = 0;
     for (const QString &line : Identity::disclaimer()) {
         auto *label = new QLabel(line, parent);
         label->setObjectName(QStringLiteral("lblWarning_%1").arg(index++));
-        layout->addWidget(label);
+        lines->addWidget(label);
     }
+    layout->addLayout(lines);
 }
 
 } // namespace frmIdentity

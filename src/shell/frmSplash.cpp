@@ -50,7 +50,7 @@ void frmSplash::makeControls()
     const int margin = fontMetrics().height() * 3 / 2;
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->setSpacing(margin);
-    layout->addWidget(frmIdentity::makeLogo(this), 0, Qt::AlignVCenter);
+    layout->addWidget(frmIdentity::makeLogo(9, this), 0, Qt::AlignVCenter);
     layout->addLayout(texts, 1);
 }
 
@@ -60,8 +60,8 @@ void frmSplash::showModal()
     QTimer tick; // wakes the loop to look at the clock
     tick.start(tickMilliseconds);
 
-    show();
     mWait.start(mServices.clock.now().time());
+    show(); // handles events, maybe a click already
     while (isWaiting())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     close();

@@ -24,7 +24,7 @@ private Q_SLOTS:
 
     void theFirstTimeAfterAnotherProgramIsOneToo()
     {
-        mRule.noneIsActive(false);
+        mRule.noneIsActive();
         QVERIFY(mRule.becomesActive(Window::Main));
     }
 
@@ -45,7 +45,7 @@ private Q_SLOTS:
     void comingFromAnotherProgramIsNone()
     {
         mRule.becomesActive(Window::Main);
-        mRule.noneIsActive(false);
+        mRule.noneIsActive();
         QVERIFY(!mRule.becomesActive(Window::Main));
     }
 
@@ -53,7 +53,7 @@ private Q_SLOTS:
     {
         mRule.becomesActive(Window::Main);
         mRule.becomesActive(Window::Other);
-        mRule.noneIsActive(false);
+        mRule.noneIsActive();
         QVERIFY(!mRule.becomesActive(Window::Main));
     }
 
@@ -61,16 +61,18 @@ private Q_SLOTS:
     {
         mRule.becomesActive(Window::Main);
         mRule.becomesActive(Window::Other);
-        mRule.noneIsActive(true);
-        QVERIFY(mRule.becomesActive(Window::Main));
+        QVERIFY(mRule.becomesActive(Window::Main, true));
+        mRule.becomesActive(Window::Other);
+        mRule.noneIsActive();
+        QVERIFY(mRule.becomesActive(Window::Main, true));
     }
 
     void aMessageBoxThatClosesLeadsToNone()
     {
         mRule.becomesActive(Window::Main);
         mRule.becomesActive(Window::MessageBox);
-        mRule.noneIsActive(true);
-        QVERIFY(!mRule.becomesActive(Window::Main));
+        mRule.noneIsActive();
+        QVERIFY(!mRule.becomesActive(Window::Main, true));
     }
 
     void aMessageOverAToolThatLeadsBackToItChangesNothing()

@@ -106,8 +106,15 @@ qsizetype characterStart(QStringView text, qsizetype position)
     return start;
 }
 
+qsizetype characterEnd(QStringView text, qsizetype position)
+{
+    const qsizetype start = characterStart(text, position);
+    return start < position ? nextCharacter(text, start) : start;
+}
+
 qsizetype nextCharacter(QStringView text, qsizetype position)
 {
+    position = std::max<qsizetype>(position, 0);
     if (position >= text.size())
         return text.size();
     if (position + 1 == text.size() || isPlainBoundary(text, position + 1))
@@ -142,6 +149,7 @@ qsizetype nextWord(QStringView text, qsizetype position)
 
 qsizetype previousWord(QStringView text, qsizetype position)
 {
+    position = std::min(position, text.size());
     while (position > 0 && codePointBefore(text, position).kind == Kind::Blank)
         --position;
     return position > 0 ? wordAt(text, position - 1).start : 0;

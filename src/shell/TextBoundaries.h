@@ -3,7 +3,8 @@
 #include <QStringView>
 
 /// Where characters and words of a text begin and end, found by looking at the text around a
-/// position only, however long the text. Positions count QString's units and lie in 0..size.
+/// position only, however long the text. Positions count QString's units; those outside the text
+/// stand for its beginning or end.
 ///
 /// A character is what a reader takes for one: a surrogate pair, a letter with its combining marks
 /// and CR LF are one character each. A chain of marks too long to be a character is cut.
@@ -22,6 +23,8 @@ struct Range
 /// The start of the character that `position` is in; `position` itself where a character starts,
 /// and at the end of the text.
 qsizetype characterStart(QStringView text, qsizetype position);
+/// The end of the character that `position` is within; `position` itself where none is parted.
+qsizetype characterEnd(QStringView text, qsizetype position);
 /// The start of the character after the one that starts at `position`; the text's end stays.
 qsizetype nextCharacter(QStringView text, qsizetype position);
 /// The start of the character before `position`; 0 stays.

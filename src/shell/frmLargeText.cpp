@@ -1,7 +1,9 @@
 #include "shell/frmLargeText.h"
 
-#include <QPainter>
-#include <QPaintEvent>
+#include "shell/frmLargeTextAccessible.h"
+#include "shell/frmLargeTextFind.h"
+
+#include <QEvent>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -19,18 +21,25 @@ constexpr qreal largestScroll = std::numeric_limits<int>::max() / 2;
 } // namespace
 
 LargeTextView::LargeTextView(ErrorTrap &trap, QWidget *parent)
-    : QAbstractScrollArea(parent), mTrap(trap)
+    : QAbstractScrollArea(parent), mTrap(trap), mFindBar(new LargeTextFindBar(this))
 {
+    makeAccessible(*this);
+    mFindBar->hide();
     setFocusPolicy(Qt::WheelFocus);
     viewport()->setCursor(Qt::IBeamCursor);
     // Every line starts at the left, whatever side the program's language starts at.
     horizontalScrollBar()->setLayoutDirection(Qt::LeftToRight);
+    mTrap.connect(mFindBar, &LargeTextFindBar::nextWanted, this, [this] { findNext(); });
+    mTrap.connect(mFindBar, &LargeTextFindBar::previousWanted, this, [this] { findPrevious(); });
+    mTrap.connect(mFindBar, &LargeTextFindBar::closeWanted, this, [this] { hideFind(); });
+    addActions();
     mLayout.setLines(&mLines);
     useFont();
 }
 
 void LargeTextView::setText(const QString &text)
 {
+    const QString before = mLines.text();
     mLines = TextLines(text);
     mLayout.setLines(&mLines);
     mTextWidth = mLayout.lineWidth(mLines.longestLine());
@@ -39,6 +48,8 @@ void LargeTextView::setText(const QString &text)
     updateScrollBars();
     measureShownLines();
     viewport()->update();
+    Q_EMIT textReplaced(before);
+    setCaret(TextCaret(&mLines));
 }
 
 void LargeTextView::changeEvent(QEvent *event)
@@ -61,9 +72,17 @@ void LargeTextView::resizeEvent(QResizeEvent *event)
 {
     QAbstractScrollArea::resizeEvent(event);
     mTrap.run([this] {
+        placeFindBar();
         updateScrollBars();
         measureShownLines();
     });
+}
+
+void LargeTextView::placeFindBar()
+{
+    const QRect above = viewport()->geometry();
+    mFindBar->setGeometry(above.left(), above.bottom() + 1, above.width(),
+                          mFindBar->sizeHint().height());
 }
 
 void LargeTextView::scrollContentsBy(int, int)
@@ -92,11 +111,9 @@ void LargeTextView::updateScrollBars()
     verticalScrollBar()->setRange(
         0, int(std::min<qsizetype>(lastFirst, std::numeric_limits<int>::max())));
 
-    const int width = viewport()->width();
-    const qreal hidden = std::ceil(mTextWidth) + 2 * margin - width;
-    horizontalScrollBar()->setPageStep(width);
+    horizontalScrollBar()->setPageStep(viewport()->width());
     horizontalScrollBar()->setSingleStep(std::max(int(4 * mLayout.blankWidth()), 1));
-    horizontalScrollBar()->setRange(0, int(std::clamp(hidden, 0.0, largestScroll)));
+    horizontalScrollBar()->setRange(0, int(std::clamp(hiddenWidth(), 0.0, largestScroll)));
 }
 
 qsizetype LargeTextView::firstShownLine() const
@@ -109,12 +126,19 @@ int LargeTextView::shownRows() const
     return std::max((viewport()->height() - margin) / mLayout.rowHeight(), 1);
 }
 
+qreal LargeTextView::hiddenWidth() const
+{
+    return std::ceil(mTextWidth) + 2 * margin - viewport()->width();
+}
+
+qreal LargeTextView::scrollStep() const
+{
+    return std::max(hiddenWidth() / largestScroll, 1.0);
+}
+
 qreal LargeTextView::horizontalOffset() const
 {
-    const QScrollBar *const bar = horizontalScrollBar();
-    const qreal hidden = std::ceil(mTextWidth) + 2 * margin - viewport()->width();
-    // Of a line wider than a scroll bar can count, a step is several pixels.
-    return hidden <= largestScroll ? bar->value() : bar->value() * (hidden / largestScroll);
+    return horizontalScrollBar()->value() * scrollStep();
 }
 
 qsizetype LargeTextView::lineAt(int y) const
@@ -129,16 +153,54 @@ QPointF LargeTextView::topLeftOf(qsizetype line) const
     return {margin - horizontalOffset(), margin + row * mLayout.rowHeight()};
 }
 
-void LargeTextView::paintEvent(QPaintEvent *event)
+qsizetype LargeTextView::positionAt(QPoint place)
 {
-    mTrap.run([this, event] { paint(event->rect()); });
+    const qsizetype line = lineAt(place.y());
+    return mLayout.positionAt(line, place.x() - topLeftOf(line).x());
 }
 
-void LargeTextView::paint(const QRect &area)
+qsizetype LargeTextView::characterAt(QPoint place)
 {
-    QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::Text));
-    const qsizetype last = lineAt(area.bottom());
-    for (qsizetype line = lineAt(area.top()); line <= last; ++line)
-        mLayout.draw(painter, line, topLeftOf(line), area, {});
+    const qsizetype line = lineAt(place.y());
+    const qreal x = place.x() - topLeftOf(line).x();
+    return mLayout.positionAt(line, x, QTextLine::CursorOnCharacter);
+}
+
+std::pair<qreal, qreal> LargeTextView::extentOf(qsizetype position)
+{
+    const qsizetype line = mLines.lineOf(position);
+    position = std::clamp(position, mLines.start(line), mLines.end(line));
+    const qreal leading = mLayout.xOf(line, position);
+    const qreal trailing = position < mLines.end(line)
+                               ? mLayout.xOf(line, position, QTextLine::Trailing)
+                               : leading + mLayout.blankWidth();
+    return std::minmax({leading, trailing});
+}
+
+QRect LargeTextView::characterRect(qsizetype position)
+{
+    const auto [left, right] = extentOf(position);
+    const QPointF corner = topLeftOf(mLines.lineOf(position));
+    const int x = int(std::floor(corner.x() + left));
+    const int end = int(std::ceil(corner.x() + right));
+    return {x, int(corner.y()), std::max(end - x, 1), mLayout.rowHeight()};
+}
+
+void LargeTextView::reveal(qsizetype position)
+{
+    const auto scrollTo = [](QScrollBar *bar, qreal value) {
+        bar->setValue(int(std::clamp(value, 0.0, qreal(bar->maximum()))));
+    };
+    const qsizetype line = mLines.lineOf(position);
+    if (line < firstShownLine())
+        scrollTo(verticalScrollBar(), qreal(line));
+    else if (line >= firstShownLine() + shownRows())
+        scrollTo(verticalScrollBar(), qreal(line - shownRows() + 1));
+
+    const auto [left, right] = extentOf(position);
+    const qreal room = viewport()->width() - 2 * margin;
+    if (left < horizontalOffset())
+        scrollTo(horizontalScrollBar(), std::floor(left / scrollStep()));
+    else if (right > horizontalOffset() + room)
+        scrollTo(horizontalScrollBar(), std::ceil((right - room) / scrollStep()));
 }

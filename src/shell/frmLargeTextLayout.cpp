@@ -20,7 +20,7 @@ constexpr int charactersKept = 200'000;
 /// Edges of slices kept; those of a line of a thousand million characters.
 constexpr qsizetype edgesKept = 1'000'000;
 
-constexpr qreal blanksInATab = 8;
+constexpr qreal charactersInATab = 8;
 
 /// Wide enough for any slice, and within what QTextLayout can count.
 constexpr qreal unlimitedWidth = 10'000'000;
@@ -47,7 +47,7 @@ void LargeTextLayout::setFont(const QFont &font, const QPaintDevice *device)
                               std::ceil(std::max(metrics.leading(), 0.0))),
                           1);
     mBlankWidth = std::max(metrics.horizontalAdvance(QLatin1Char(' ')), 1.0);
-    mTabDistance = blanksInATab * mBlankWidth;
+    mTabDistance = charactersInATab * std::max(metrics.averageCharWidth(), 1.0);
     mAdvances.clear();
     forget();
 }
@@ -59,25 +59,34 @@ void LargeTextLayout::forget()
     mEdgeCount = 0;
 }
 
+bool LargeTextLayout::isRightToLeft(qsizetype line) const
+{
+    return TextSlices(mLines->line(line)).text(0).isRightToLeft();
+}
+
 qreal LargeTextLayout::lineWidth(qsizetype line)
 {
     return TextSlices(mLines->line(line)).count() == 1 ? slice(line, 0).lineAt(0).naturalTextWidth()
                                                        : edges(line).back();
 }
 
-qreal LargeTextLayout::xOf(qsizetype line, qsizetype position)
+qreal LargeTextLayout::xOf(qsizetype line, qsizetype position, QTextLine::Edge edge)
 {
+    const bool isTab =
+        position < mLines->end(line) && mLines->text()[position] == QLatin1Char('\t');
+    if (edge == QTextLine::Trailing && isTab) // whose width QTextLine leaves out
+        return xOf(line, position + 1);
     const TextSlices slices(mLines->line(line));
     const qsizetype offset = position - mLines->start(line);
     const qsizetype index = slices.sliceOf(offset);
     const int offsetInSlice = int(offset - slices.start(index));
-    return leftOf(line, index) + slice(line, index).lineAt(0).cursorToX(offsetInSlice);
+    return leftOf(line, index) + slice(line, index).lineAt(0).cursorToX(offsetInSlice, edge);
 }
 
-qsizetype LargeTextLayout::positionAt(qsizetype line, qreal x)
+qsizetype LargeTextLayout::positionAt(qsizetype line, qreal x, QTextLine::CursorPosition kind)
 {
     const qsizetype index = sliceAt(line, x);
-    const int offset = slice(line, index).lineAt(0).xToCursor(x - leftOf(line, index));
+    const int offset = slice(line, index).lineAt(0).xToCursor(x - leftOf(line, index), kind);
     return mLines->start(line) + TextSlices(mLines->line(line)).start(index) + offset;
 }
 
@@ -122,8 +131,7 @@ const QTextLayout &LargeTextLayout::slice(qsizetype line, qsizetype index)
     const qsizetype key = mLines->start(line) + slices.start(index);
     if (const QTextLayout *known = mSlices.object(key))
         return *known;
-    const Qt::LayoutDirection direction =
-        slices.text(0).isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+    const auto direction = isRightToLeft(line) ? Qt::RightToLeft : Qt::LeftToRight;
     const QStringView text = slices.text(index);
     QTextLayout *const layout = layOut(text, direction);
     mSlices.insert(key, layout, std::max(int(text.size()), 1));

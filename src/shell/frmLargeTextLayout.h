@@ -45,10 +45,15 @@ public:
     qreal blankWidth() const { return mBlankWidth; }
 
     qreal lineWidth(qsizetype line);
-    /// Where the caret stands in front of `position`, a position of that line or its end.
-    qreal xOf(qsizetype line, qsizetype position);
-    /// The position in front of which a caret at `x` stands: the nearest edge of a character.
-    qsizetype positionAt(qsizetype line, qreal x);
+    /// The leading or the trailing edge of the character at `position`, a position of that line or
+    /// its end. The caret stands at the leading edge.
+    qreal xOf(qsizetype line, qsizetype position, QTextLine::Edge edge = QTextLine::Leading);
+    /// The position at `x`: of the nearest edge between characters, where a caret goes, or of the
+    /// character that is there. Beside the line it is the line's nearer end.
+    qsizetype positionAt(qsizetype line, qreal x,
+                         QTextLine::CursorPosition kind = QTextLine::CursorBetweenCharacters);
+    /// Whether the line reads from the right.
+    bool isRightToLeft(qsizetype line) const;
 
     /// Draws those slices of a line that `visible` needs, in the painter's pen, with the top left
     /// corner of the line's row at `topLeft`.

@@ -1,6 +1,7 @@
 #include "extract/frmExtract.h"
 
 #include "extract/frmDrvDirFil.h"
+#include "shell/frmHourglass.h"
 #include "shell/frmLargeText.h"
 
 #include <QButtonGroup>
@@ -8,7 +9,6 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QGridLayout>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -23,14 +23,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr char tagProperty[] = "Tag";
-
-class Hourglass
-{
-public:
-    Hourglass() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~Hourglass() { QGuiApplication::restoreOverrideCursor(); }
-    Q_DISABLE_COPY_MOVE(Hourglass)
-};
 
 /// Option buttons `name`_0, `name`_1, ..., of which one is chosen.
 QButtonGroup *makeOptions(const QString &name, const QStringList &captions, QObject *parent)
@@ -127,6 +119,7 @@ void frmExtract::makeControls()
     mApplicationPanel = new QLabel;
     mApplicationPanel->setObjectName(u"sbStatusBar_1"_s);
     mApplicationPanel->setTextFormat(Qt::PlainText);
+    mApplicationPanel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     statusBar()->addWidget(mApplicationPanel, 1);
 }
 
@@ -208,7 +201,7 @@ void frmExtract::runExtract()
     if (mIsRunning)
         return;
     const QScopedValueRollback running(mIsRunning, true);
-    const Hourglass hourglass;
+    const frmHourglass hourglass(this);
     mText->clear();
     // The emptied box is to be seen. The user's input waits: a second run cannot start in here,
     // nor the window be closed.
@@ -230,6 +223,7 @@ void frmExtract::applyDelimiter(const QString &tag)
 
 void frmExtract::headerRowClicked()
 {
+    const frmHourglass hourglass(this);
     const bool headerRow = mShowHeaderRow->isChecked();
     if (mGlobal.gExtractText.isEmpty()) {
         // Nothing is shown of an extract that nobody ran, unless there is nothing but its header.
@@ -251,7 +245,6 @@ void frmExtract::saveExtract()
 
 void frmExtract::build(const ExtractIndicators &indicators)
 {
-    const Hourglass hourglass;
     mGlobal.gExtractText.clear();
     mGlobal.gExtractTextWithHeader.clear();
     if (!mGlobal.gDimension)

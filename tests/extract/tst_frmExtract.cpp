@@ -78,11 +78,7 @@ private Q_SLOTS:
         open();
     }
 
-    void cleanup()
-    {
-        delete mWindow;
-        QVERIFY(!QGuiApplication::overrideCursor());
-    }
+    void cleanup() { delete mWindow; }
 
     // The window as it opens.
 
@@ -263,14 +259,13 @@ private Q_SLOTS:
         QTimer::singleShot(0, mWindow, [&] {
             ran = true;
             QCOMPARE(shown(), QString());
-            QVERIFY(QGuiApplication::overrideCursor());
-            QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+            QCOMPARE(mWindow->cursor().shape(), Qt::WaitCursor);
             QCOMPARE(mFake->hfm.calls().made(), QStringList());
         });
         click("cmdExtract");
         QVERIFY(ran);
         QCOMPARE(shown(), plainRows);
-        QVERIFY(!QGuiApplication::overrideCursor());
+        QCOMPARE(mWindow->cursor().shape(), Qt::ArrowCursor);
     }
 
     void aRunCannotBeStartedNorTheWindowClosedWithinARun()
@@ -298,7 +293,7 @@ private Q_SLOTS:
         QCOMPARE(mFake->prompts.asked.size(), 1);
         QCOMPARE(mFake->prompts.asked[0].text, u"Run-time error '1234':\r\n\r\nLost."_s);
         QCOMPARE(mFake->program.endCodes, QList<int>{1});
-        QVERIFY(!QGuiApplication::overrideCursor());
+        QCOMPARE(mWindow->cursor().shape(), Qt::ArrowCursor);
         QCOMPARE(shown(), QString());
     }
 

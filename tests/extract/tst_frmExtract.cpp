@@ -169,7 +169,8 @@ private Q_SLOTS:
     void everyControlHasAnAccessibleName()
     {
         for (QWidget *widget : mWindow->findChildren<QWidget *>()) {
-            if (widget->focusPolicy() == Qt::NoFocus || widget->objectName().startsWith(u"qt_"))
+            const bool takesFocus = widget->focusPolicy() != Qt::NoFocus && !widget->focusProxy();
+            if (!takesFocus || widget->objectName().startsWith(u"qt_"))
                 continue;
             QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
             QVERIFY(accessible);

@@ -22,6 +22,9 @@ frmMain::frmMain(modGlobal &state, Services &services, Tools tools)
     mControls.cmdApplicationInfo->setEnabled(false);
     mControls.cboLanguages->setEnabled(false);
     connectCommands();
+    // Wide enough for the status of a usual logon.
+    constexpr int statusCharacters = 100;
+    resize(fontMetrics().averageCharWidth() * statusCharacters, sizeHint().height());
     new frmActivation(this, mServices.trap, [this] { setDimension(); });
     logOnNow();
 }

@@ -143,20 +143,16 @@ void frmMainControls::layOut(QMainWindow *window)
     commands->addStretch();
     commands->addWidget(cmdExit);
 
-    const QFontMetrics font = window->fontMetrics();
     auto *layout = new QGridLayout(body);
     layout->addLayout(language, 0, 0);
     layout->addWidget(frmDimensionActionItems, 1, 0);
     layout->addLayout(commands, 0, 2, 2, 1);
     layout->addWidget(lblHelpText, 2, 0, 1, 3);
     layout->setColumnStretch(0, 1);
-    layout->setColumnMinimumWidth(1, font.height() / 2);
+    layout->setColumnMinimumWidth(1, window->fontMetrics().height() / 2);
     layout->setRowStretch(3, 1);
     lblHelpText->setWordWrap(true);
     window->setCentralWidget(body);
-    // Wide enough for the status of a usual logon.
-    constexpr int statusCharacters = 100;
-    window->resize(font.averageCharWidth() * statusCharacters, window->sizeHint().height());
 }
 
 void frmMainControls::setTabOrder()

@@ -6,6 +6,13 @@
 
 namespace {
 
+/// On X11 only a dialog is kept above its owner; nothing else about the window is a dialog's.
+void becomeOwnable(QWidget *tool)
+{
+    tool->setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                         Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
+}
+
 QWindow *nativeWindow(QWidget *window)
 {
     window->winId(); // makes the native window where there is none yet
@@ -20,6 +27,7 @@ void ToolWindow::showOwned(QWidget *tool, QWidget *owner)
         tool->setWindowState(tool->windowState() & ~Qt::WindowMinimized);
         tool->raise();
     } else {
+        becomeOwnable(tool);
         nativeWindow(tool)->setTransientParent(nativeWindow(owner));
         tool->show();
     }

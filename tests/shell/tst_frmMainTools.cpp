@@ -115,6 +115,8 @@ private Q_SLOTS:
         QCOMPARE(mMain->tools[0]->window()->windowHandle()->transientParent(),
                  mMain->window->windowHandle());
         QVERIFY(!mMain->tools[0]->window()->parentWidget());
+        // What X11's window managers go by.
+        QCOMPARE(mMain->tools[0]->window()->windowType(), Qt::Dialog);
     }
 
     void helpRunsTheHelpViewersCommandLine()

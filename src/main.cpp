@@ -10,6 +10,7 @@
 #include "shell/Identity.h"
 #include "shell/StartUp.h"
 #include "shell/WindowInstance.h"
+#include "viewer/frmMetadataViewer.h"
 
 #include <QApplication>
 
@@ -56,8 +57,10 @@ int main(int argc, char *argv[])
 
     modGlobal global;
     WindowInstance<frmExtract> extract([&] { return new frmExtract(services, global); });
+    WindowInstance<frmMetadataViewer> viewer(
+        [&] { return new frmMetadataViewer(services, global); });
     WindowInstance<frmMain> mainWindow([&] {
-        return new frmMain(global, services, {{}, toolOf(extract), {}, {}});
+        return new frmMain(global, services, {{}, toolOf(extract), {}, toolOf(viewer)});
     });
 
     startUp(services, {[&] { frmSplash(services).showModal(); },

@@ -19,9 +19,9 @@ bool MemberTreeModel::isRoot(qint32 node) const
     return node == mTop || mTree->parent(node) == MemberTree::none;
 }
 
-qint32 MemberTreeModel::levelOf(qint32 node) const
+qint32 MemberTreeModel::level(const QModelIndex &index) const
 {
-    return mTree->level(node) - (mTop == MemberTree::none ? 0 : mTree->level(mTop) - 1);
+    return mTree->level(node(index)) - (mTop == MemberTree::none ? 0 : mTree->level(mTop) - 1);
 }
 
 QModelIndex MemberTreeModel::indexOf(qint32 node) const
@@ -80,23 +80,22 @@ QVariant MemberTreeModel::data(const QModelIndex &index, int role) const
         return u"<p style=\"white-space:pre-wrap\">"_s + mTree->text(node(index)).toHtmlEscaped() +
                u"</p>"_s;
     case Qt::AccessibleTextRole:
-        return spokenText(node(index));
+        return spokenText(index);
     case KeyRole:
         return mTree->key(node(index));
     case TagRole:
         return mTree->tag(node(index));
     case LevelRole:
-        return levelOf(node(index));
+        return level(index);
     default:
         return {};
     }
 }
 
 /// "<label>, level 2, 3 of 7"
-QString MemberTreeModel::spokenText(qint32 node) const
+QString MemberTreeModel::spokenText(const QModelIndex &index) const
 {
-    const QModelIndex index = indexOf(node);
-    return mTree->label(node) % ", level "_L1 % QString::number(levelOf(node)) % ", "_L1 %
+    return mTree->label(node(index)) % ", level "_L1 % QString::number(level(index)) % ", "_L1 %
            QString::number(index.row() + 1) % " of "_L1 % QString::number(rowCount(index.parent()));
 }
 

@@ -26,6 +26,8 @@ public:
     const std::shared_ptr<const MemberTree> &tree() const { return mTree; }
     /// The node behind a valid index of this model.
     qint32 node(const QModelIndex &index) const { return qint32(index.internalId()); }
+    /// 1 for a root of the shown tree. `index` is a valid one of this model.
+    qint32 level(const QModelIndex &index) const;
     /// Where a node stands; `node` is none or one of those shown.
     QModelIndex indexOf(qint32 node) const;
 
@@ -42,8 +44,7 @@ public:
 
 private:
     bool isRoot(qint32 node) const;
-    qint32 levelOf(qint32 node) const;
-    QString spokenText(qint32 node) const;
+    QString spokenText(const QModelIndex &index) const;
 
     std::shared_ptr<const MemberTree> mTree;
     qint32 mTop = MemberTree::none;

@@ -160,19 +160,6 @@ private Q_SLOTS:
         QCOMPARE(errorOf([&] { mPaths.read(mDimension, 3); }), 7);
         QCOMPARE(mPaths.count(), 3);
     }
-
-    void aChainOfAMillionMembersIsRead()
-    {
-        constexpr int length = 1'000'000;
-        FakeMembers chain;
-        for (int i = 0; i < length; ++i)
-            chain.add(i - 1, QString::number(i));
-        mDimension.setMembers({});
-        mDimension.members() = std::move(chain);
-        mPaths.read(mDimension);
-        QCOMPARE(mPaths.count(), length);
-        QCOMPARE(mPaths.entry(length - 1), u"999998_999998#999999_999999"_s);
-    }
 };
 
 QTEST_APPLESS_MAIN(tst_MemberPaths)

@@ -195,9 +195,9 @@ private Q_SLOTS:
         QCOMPARE(printedTexts(*mTree), u"A - \nB - \n"_s);
     }
 
-    void aChainOfAMillionMembersIsBuilt()
+    void aChainDeeperThanAnyStackIsBuilt()
     {
-        constexpr int length = 1'000'000;
+        constexpr int length = 200'000;
         FakeMembers chain;
         for (int i = 0; i < length; ++i)
             chain.add(i - 1, QString::number(i));
@@ -206,7 +206,7 @@ private Q_SLOTS:
         build();
         QCOMPARE(mTree->maxLevel(), length);
         QCOMPARE(mTree->parent(length - 1), length - 2);
-        QCOMPARE(mTree->tag(length - 1), u"999998_999998#999999_999999"_s);
+        QCOMPARE(mTree->tag(length - 1), u"199998_199998#199999_199999"_s);
     }
 };
 

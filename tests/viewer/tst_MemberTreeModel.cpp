@@ -121,16 +121,16 @@ private Q_SLOTS:
         QCOMPARE(checkedNodes(model), 0);
     }
 
-    void aChainOfAMillionMembersIsAProperModel()
+    void aChainDeeperThanAnyStackIsAProperModel()
     {
         FakeHfm hfm;
         FakeMembers chain;
-        for (int i = 0; i < 1'000'000; ++i)
+        for (int i = 0; i < 200'000; ++i)
             chain.add(i - 1, QString::number(i));
         hfm.application().account().members() = std::move(chain);
         MemberTreeModel model;
         model.show(treeOf(hfm.application().account()));
-        QCOMPARE(checkedNodes(model), 1'000'000);
+        QCOMPARE(checkedNodes(model), 200'000);
     }
 
     void aNodeShowsItsText()

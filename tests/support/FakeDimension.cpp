@@ -53,12 +53,12 @@ void FakeDimension::setDefaultParent(const QString &label, const QString &parent
 
 void FakeDimension::addSystemList(const QString &name, const QStringList &labels)
 {
-    mLists.value().addSystemList(name, idsOf(labels));
+    mLists.addSystemList(name, idsOf(labels));
 }
 
 void FakeDimension::addUserList(const QString &name, const QStringList &labels)
 {
-    mLists.value().addUserList(name, idsOf(labels));
+    mLists.addUserList(name, idsOf(labels));
 }
 
 QString FakeDimension::GetDimensionName()
@@ -70,13 +70,13 @@ QString FakeDimension::GetDimensionName()
 QList<QString> FakeDimension::EnumMemberListNames()
 {
     mData->calls->enter("EnumMemberListNames"_L1);
-    return mLists ? mLists->names() : QStringList();
+    return mLists.names();
 }
 
 hfm::ListId FakeDimension::GetMemberListId(const QString &listName)
 {
     mData->calls->enter("GetMemberListId"_L1);
-    if (const auto id = mLists ? mLists->find(listName) : std::nullopt)
+    if (const auto id = mLists.find(listName))
         return *id;
     throw fakeClientError();
 }
@@ -84,7 +84,7 @@ hfm::ListId FakeDimension::GetMemberListId(const QString &listName)
 QList<MemberId> FakeDimension::EnumMemberListMembers(hfm::ListId list, MemberId top)
 {
     mData->calls->enter("EnumMemberListMembers"_L1);
-    if (const auto found = mLists ? mLists->members(list, mData->members, top) : std::nullopt)
+    if (const auto found = mLists.members(list, mData->members, top))
         return *found;
     throw fakeClientError();
 }

@@ -44,7 +44,7 @@ public:
     /// A user-defined list; IDs are 1, 2, 3, ... in the order of adding.
     void addUserList(const QString &name, const QStringList &labels);
     /// Leaves the dimension without any list, the system lists included.
-    void clearLists() { mLists.reset(); }
+    void clearLists() { mLists.clear(); }
 
     // hfm::Dimension.
 
@@ -80,5 +80,5 @@ private:
     FakeKind mKind;
     QString mName;
     std::shared_ptr<FakeDimensionData> mData;
-    std::optional<FakeLists> mLists = FakeLists();
+    FakeLists mLists;
 };

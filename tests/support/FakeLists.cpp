@@ -29,6 +29,12 @@ FakeLists::FakeLists()
 {
 }
 
+void FakeLists::clear()
+{
+    mSystemLists.clear();
+    mUserLists.clear();
+}
+
 void FakeLists::addSystemList(const QString &name, const QList<MemberId> &members)
 {
     mSystemLists.append({name, -1 - hfm::ListId(mSystemLists.size()), Rule::Given, members});

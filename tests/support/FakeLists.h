@@ -12,6 +12,8 @@ class FakeLists
 public:
     FakeLists();
 
+    /// Leaves no list, the system lists included.
+    void clear();
     /// A system list of these members, with an ID below those of the others.
     void addSystemList(const QString &name, const QList<hfm::MemberId> &members);
     /// A user-defined list; IDs are 1, 2, 3, ... in the order of adding.

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "appinfo/frmTabControls.h"
+#include "appinfo/SecurityAccess.h"
+
+/// "&Security": its controls, made, captioned and laid out on `page`.
+struct frmSecurityTab
+{
+    frmSecurityTab(ErrorTrap &trap, QWidget *page);
+
+    /// Shows an answer, and keeps its lines for the spreadsheet.
+    void show(const SecurityAccess::Columns &columns);
+    void clear() { show({}); }
+
+    QListView *lstUsers;
+    QListView *lstRoles;
+    QListView *lstSecurityClasses;
+    LargeTextView *txtTemp;
+    LargeTextView *txtTemp2;
+    QListView *lstTemp; ///< hidden, as the other one: their lines are those of the text boxes
+    QListView *lstTemp2;
+    QPushButton *cmdSendToExcel;
+};

@@ -1,0 +1,110 @@
+#include "appinfo/frmTabControls.h"
+
+#include "shell/frmLargeText.h"
+
+#include <QLineEdit>
+#include <QStringListModel>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int shortestListText = 16; ///< characters that a combo box is at least wide enough for
+
+/// A caption as it is spoken.
+QString spoken(QString caption)
+{
+    return caption.remove(u'&').remove(u':').trimmed();
+}
+
+} // namespace
+
+QLabel *TabControls::makeLabel(QWidget *parent, const char *name, const QString &text)
+{
+    auto *label = new QLabel(text, parent);
+    label->setObjectName(QLatin1StringView(name));
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+QComboBox *TabControls::makeList(QLabel *label, const char *name)
+{
+    auto *list = new QComboBox(label->parentWidget());
+    list->setObjectName(QLatin1StringView(name));
+    list->setAccessibleName(spoken(label->text()));
+    label->setBuddy(list);
+    // Neither the box nor its list is sized by a look at every entry.
+    list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    list->setMinimumContentsLength(shortestListText);
+    list->setModel(new QStringListModel(list));
+    if (auto *view = qobject_cast<QListView *>(list->view()))
+        view->setUniformItemSizes(true);
+    return list;
+}
+
+QComboBox *TabControls::makeTypedList(QLabel *label, const char *name)
+{
+    QComboBox *list = makeList(label, name);
+    list->setEditable(true);
+    list->setInsertPolicy(QComboBox::NoInsert);
+    list->setCompleter(nullptr);
+    // Qt would take Enter, and leaving the text, for a choice where the text is an entry's.
+    QObject::disconnect(list->lineEdit(), &QLineEdit::returnPressed, list, nullptr);
+    QObject::disconnect(list->lineEdit(), &QLineEdit::editingFinished, list, nullptr);
+    list->lineEdit()->setAccessibleName(list->accessibleName());
+    return list;
+}
+
+void TabControls::setEntries(QComboBox *list, const QStringList &entries, int current)
+{
+    static_cast<QStringListModel *>(list->model())->setStringList(entries);
+    list->setCurrentIndex(current);
+}
+
+QListView *TabControls::makeListBox(QWidget *parent, const char *name,
+                                    const QString &accessibleName)
+{
+    auto *list = new QListView(parent);
+    list->setObjectName(QLatin1StringView(name));
+    list->setAccessibleName(accessibleName);
+    list->setModel(new QStringListModel(list));
+    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list->setUniformItemSizes(true);
+    return list;
+}
+
+void TabControls::setLines(QAbstractItemView *list, const QStringList &lines)
+{
+    static_cast<QStringListModel *>(list->model())->setStringList(lines);
+}
+
+QList<QRadioButton *> TabControls::makeOptions(QWidget *parent, const char *name, int first,
+                                               const QStringList &captions)
+{
+    QList<QRadioButton *> options;
+    for (const QString &caption : captions) {
+        auto *option = new QRadioButton(caption, parent);
+        option->setObjectName(QLatin1StringView(name) + u'_' +
+                              QString::number(first + options.size()));
+        option->setAccessibleName(caption);
+        options.append(option);
+    }
+    return options;
+}
+
+QPushButton *TabControls::makeButton(QWidget *parent, const char *name, const QString &caption)
+{
+    auto *button = new QPushButton(caption, parent);
+    button->setObjectName(QLatin1StringView(name));
+    button->setAccessibleName(spoken(caption));
+    return button;
+}
+
+LargeTextView *TabControls::makeReport(ErrorTrap &trap, QWidget *parent, const char *name,
+                                       const QString &accessibleName)
+{
+    auto *report = new LargeTextView(trap, parent);
+    report->setObjectName(QLatin1StringView(name));
+    report->setAccessibleName(accessibleName);
+    return report;
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "runtime/ErrorTrap.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QListView>
+#include <QPushButton>
+#include <QRadioButton>
+
+class LargeTextView;
+
+/// The kinds of controls that the tabs are made of. `name` becomes the control's object name;
+/// captions stand as they are given, "&" marking the mnemonic.
+namespace TabControls {
+
+QLabel *makeLabel(QWidget *parent, const char *name, const QString &text);
+
+/// A box to choose an entry from, with none chosen. It opens at once however many entries it holds.
+QComboBox *makeList(QLabel *label, const char *name);
+/// Such a box whose text can be typed too. Typing inserts nothing, completes nothing and chooses
+/// nothing but with Enter, which the box leaves to its line edit's `returnPressed`.
+QComboBox *makeTypedList(QLabel *label, const char *name);
+
+/// Replaces the entries and chooses the one at `current`, or none where that is -1; no choice of
+/// the user's.
+void setEntries(QComboBox *list, const QStringList &entries, int current);
+
+/// A list of texts over a QStringListModel of its own.
+QListView *makeListBox(QWidget *parent, const char *name, const QString &accessibleName);
+void setLines(QAbstractItemView *list, const QStringList &lines);
+
+/// Option buttons `name`_first, `name`_first+1, ...: one for each caption, none of them chosen.
+QList<QRadioButton *> makeOptions(QWidget *parent, const char *name, int first,
+                                  const QStringList &captions);
+
+QPushButton *makeButton(QWidget *parent, const char *name, const QString &caption);
+
+/// A read-only box for a report of any length.
+LargeTextView *makeReport(ErrorTrap &trap, QWidget *parent, const char *name,
+                          const QString &accessibleName);
+
+} // namespace TabControls

@@ -9,6 +9,7 @@ cd "$(dirname "$0")"
 # shellcheck disable=SC2086 # a list of words
 need $build_packages
 configure release
+[ -x build/release/tessaly ] || echo "Building Tessaly; the first time takes some minutes."
 cmake --build --preset release --target tessaly tour -- --quiet
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
@@ -17,6 +18,7 @@ fi
 echo "There is no display here, so Tessaly takes the tour off-screen."
 rm -rf build/tour
 mkdir -p build/tour
-QT_QPA_PLATFORM=offscreen build/release/tour build/tour
+# Qt's off-screen platform has no size hints to pass on, and says so for every window.
+QT_LOGGING_RULES="default.warning=false" QT_QPA_PLATFORM=offscreen build/release/tour build/tour
 echo "What it saw is in build/tour/:"
 ls build/tour

@@ -5,6 +5,11 @@
 
 #include <utility>
 
+#ifdef Q_OS_UNIX
+#include <pwd.h>
+#include <unistd.h>
+#endif
+
 namespace hfm::offline {
 
 namespace {
@@ -63,6 +68,10 @@ QString loginName()
         if (const QString name = qEnvironmentVariable(variable); !name.isEmpty())
             return name;
     }
+#ifdef Q_OS_UNIX
+    if (const passwd *user = getpwuid(geteuid()))
+        return QString::fromLocal8Bit(user->pw_name);
+#endif
     return {};
 }
 

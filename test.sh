@@ -23,7 +23,7 @@ done
 
 echo "== Fuzzers, $fuzz_seconds seconds each"
 configure fuzz
-cmake --build --preset fuzz -- --quiet
+cmake --build --preset fuzz --target fuzzers -- --quiet
 tests/fuzz/run.sh build/fuzz "$fuzz_seconds"
 
 echo "== Benchmarks build"

@@ -33,7 +33,7 @@ bool isPlain(const Unit *units)
 {
     Unit strange = 0;
     for (qsizetype i = 0; i < stretch; ++i)
-        strange |= Unit((units[i] > 0xFF) | isSpecial(units[i]) ? ~0 : 0);
+        strange |= Unit(((units[i] > 0xFF) | isSpecial(units[i])) ? ~0 : 0);
     return strange == 0;
 }
 

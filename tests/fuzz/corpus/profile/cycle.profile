@@ -1,0 +1,4 @@
+!HIERARCHIES=Period
+;A
+A;B
+B;A

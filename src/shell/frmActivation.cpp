@@ -15,7 +15,7 @@ bool frmActivation::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::WindowActivate) {
         auto *widget = qobject_cast<QWidget *>(watched);
         if (widget && widget->isWindow())
-            windowActivated(widget);
+            mTrap.run([this, widget] { windowActivated(widget); });
     } else if (event->type() == QEvent::WindowDeactivate && !QApplication::activeWindow()) {
         mRule.noneIsActive();
     }

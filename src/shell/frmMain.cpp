@@ -167,6 +167,6 @@ void frmMain::mnuHelpAbout_Click()
 
 void frmMain::closeEvent(QCloseEvent *event)
 {
-    ToolWindow::release(this);
+    mServices.trap.run([this] { ToolWindow::release(this); });
     event->accept();
 }

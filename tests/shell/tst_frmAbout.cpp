@@ -1,5 +1,6 @@
 #include "shell/frmAbout.h"
 
+#include <QImageReader>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
@@ -33,7 +34,9 @@ private Q_SLOTS:
         QCOMPARE(text("lblWarning_2"),
                  QStringLiteral("if you wish to provide feedback, ask for enhancements and/or "
                                 "fixes. "));
-        QVERIFY(about.findChild<QLabel *>(QStringLiteral("picLogo")));
+        const auto *logo = about.findChild<QLabel *>(QStringLiteral("picLogo"));
+        QVERIFY(logo);
+        QCOMPARE(!logo->pixmap().isNull(), QImageReader::supportedImageFormats().contains("svg"));
     }
 
     void itIsModalOverItsOwner()

@@ -122,11 +122,11 @@ QString GetHFMVersion(qint16 selector, Services &services, ErrorLog &log)
 bool isSupportedVersion(const QString &version)
 {
     const VersionPieces pieces(version);
-    Counter16 twoParts(10 * pieces.at(0));
+    Counter16 twoParts(qint64(10) * pieces.at(0));
     twoParts += pieces.at(1);
     // Only asks for a third piece, and for its fitting in; the value itself is not used.
-    Counter16 threeParts(100 * pieces.at(0));
-    threeParts += Counter16(10 * pieces.at(1)).value();
+    Counter16 threeParts(qint64(100) * pieces.at(0));
+    threeParts += Counter16(qint64(10) * pieces.at(1)).value();
     threeParts += pieces.at(2);
 
     if (twoParts.value() == 0)

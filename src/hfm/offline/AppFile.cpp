@@ -147,6 +147,8 @@ private:
         case SourceFile::Profile:
             return kind == SectionKind::Languages || kind == SectionKind::Members ||
                    kind == SectionKind::Hierarchies;
+        case SourceFile::MemberLists: // a script, which has no sections
+            return false;
         case SourceFile::Security:
             break;
         }

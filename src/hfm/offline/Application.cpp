@@ -73,7 +73,8 @@ std::shared_ptr<const Application> finishApplication(ApplicationDraft &draft,
                                                   std::move(draft.securityClasses),
                                                   noCurrency,
                                                   std::move(additions.entityCurrencies),
-                                                  std::move(additions.topMembers)});
+                                                  std::move(additions.topMembers),
+                                                  std::move(draft.memberListFile)});
     setLanguages(*application, draft);
     application->arena = std::move(draft.arena);
     application->warnings = draft.warnings;

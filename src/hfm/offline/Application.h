@@ -29,6 +29,8 @@ struct Application
     /// For each custom dimension, the members that AccountRecord::topMembers counts.
     std::array<std::vector<MemberId>, 4> topMembers;
 
+    MemberListFile memberListFile; ///< as it stands on the disk
+
     const StoredDimension &dimension(DimensionKind kind) const { return dimensions[size_t(kind)]; }
 };
 

@@ -43,6 +43,7 @@ struct ApplicationDraft
     std::vector<Names> topMembers;      ///< by custom dimension: those that accounts name
     Names languages{*arena};            ///< those that descriptions are in
     Names listedLanguages{*arena};      ///< those of the profile
+    MemberListFile memberListFile;
 };
 
 } // namespace hfm::offline

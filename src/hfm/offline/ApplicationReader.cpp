@@ -40,6 +40,15 @@ void readOptional(const QString &path, SourceFile source, ApplicationDraft &draf
     }
 }
 
+void readMemberListFile(QIODevice &device, ApplicationDraft &draft)
+{
+    const QByteArray content = device.readAll();
+    if (content.size() < device.size())
+        throw ReadingError(draft.warnings.fileName(SourceFile::MemberLists), 0,
+                           QStringLiteral("The file cannot be read: %1").arg(device.errorString()));
+    draft.memberListFile = {content, 1};
+}
+
 std::shared_ptr<const Application> readFiles(const ApplicationFiles &files, int currentYear)
 {
     Warnings warnings;
@@ -50,6 +59,7 @@ std::shared_ptr<const Application> readFiles(const ApplicationFiles &files, int 
     readMetadataFile(metadata, draft);
     readOptional(files.profile, SourceFile::Profile, draft, readProfileFile);
     readOptional(files.security, SourceFile::Security, draft, readSecurityClasses);
+    readOptional(files.memberLists, SourceFile::MemberLists, draft, readMemberListFile);
     return finishApplication(draft, files, currentYear);
 }
 

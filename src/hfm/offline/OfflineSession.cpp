@@ -10,18 +10,18 @@ namespace {
 class OfflineSystemInformation final : public SystemInformation
 {
 public:
-    OfflineSystemInformation(QString clusterName, QString applicationName)
-        : mClusterName(std::move(clusterName)), mApplicationName(std::move(applicationName))
+    OfflineSystemInformation(std::shared_ptr<const Application> application, QString clusterName)
+        : mApplication(std::move(application)), mClusterName(std::move(clusterName))
     {
     }
 
     QString GetClusterName() override { return mClusterName; }
-    QString GetApplicationName() override { return mApplicationName; }
-    MemberListFile GetMemberListFile() override { return {}; }
+    QString GetApplicationName() override { return mApplication->files.name; }
+    MemberListFile GetMemberListFile() override { return mApplication->memberListFile; }
 
 private:
+    std::shared_ptr<const Application> mApplication;
     QString mClusterName;
-    QString mApplicationName;
 };
 
 class OfflineMetadata final : public Metadata
@@ -65,7 +65,7 @@ OfflineSession::OfflineSession(std::shared_ptr<const Application> application, Q
 
 std::shared_ptr<SystemInformation> OfflineSession::GetSystemInfo()
 {
-    return std::make_shared<OfflineSystemInformation>(mClusterName, mApplication->files.name);
+    return std::make_shared<OfflineSystemInformation>(mApplication, mClusterName);
 }
 
 std::shared_ptr<Metadata> OfflineSession::GetMetadata()

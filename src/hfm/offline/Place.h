@@ -7,7 +7,7 @@
 namespace hfm::offline {
 
 /// The files that an application is read from.
-enum class SourceFile : quint32 { Metadata, Profile, Security };
+enum class SourceFile : quint32 { Metadata, Profile, Security, MemberLists };
 
 /// A line of one of the application's files, in four bytes, because there is one for each member
 /// and each edge while they are being read. Lines count from 1; line 0 stands for no line at all,

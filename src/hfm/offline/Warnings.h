@@ -48,7 +48,7 @@ private:
         QString text;
     };
 
-    std::array<QString, 3> mNames;
+    std::array<QString, 4> mNames;
     QList<Entry> mEntries;
     qint64 mCount = 0;
 };

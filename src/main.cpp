@@ -1,3 +1,4 @@
+#include "appinfo/frmApplicationInfo.h"
 #include "extract/frmExtract.h"
 #include "hfm/offline/dlgOfflineDialogs.h"
 #include "hfm/offline/OfflineClient.h"
@@ -56,11 +57,14 @@ int main(int argc, char *argv[])
     Services services{clients, prompts, launcher, clock, program, trap, programFolder};
 
     modGlobal global;
+    WindowInstance<frmApplicationInfo> applicationInfo(
+        [&] { return new frmApplicationInfo(services, global); });
     WindowInstance<frmExtract> extract([&] { return new frmExtract(services, global); });
     WindowInstance<frmMetadataViewer> viewer(
         [&] { return new frmMetadataViewer(services, global); });
     WindowInstance<frmMain> mainWindow([&] {
-        return new frmMain(global, services, {{}, toolOf(extract), {}, toolOf(viewer)});
+        return new frmMain(global, services,
+                           {toolOf(applicationInfo), toolOf(extract), {}, toolOf(viewer)});
     });
 
     startUp(services, {[&] { frmSplash(services).showModal(); },

@@ -1,6 +1,7 @@
 #include "shell/TextLines.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -30,7 +31,7 @@ const char16_t *findLineEnd(const char16_t *from, const char16_t *end)
 
 } // namespace
 
-TextLines::TextLines(const QString &text) : mText(text)
+TextLines::TextLines(QString text) : mText(std::move(text))
 {
     findLines();
 }

@@ -14,7 +14,7 @@ class TextLines
 {
 public:
     TextLines() : TextLines(QString()) {}
-    explicit TextLines(const QString &text);
+    explicit TextLines(QString text);
 
     const QString &text() const { return mText; }
     qsizetype length() const { return mText.size(); }

@@ -4,6 +4,8 @@
 
 #include <QMimeData>
 
+#include <utility>
+
 /// A part of a text for the clipboard, exactly as it stands. It shares the text and cuts its part
 /// out only when another program asks for it, so that selecting all of a hundred megabytes costs
 /// nothing.
@@ -11,7 +13,7 @@ class TextPiece : public QMimeData
 {
 public:
     /// `range` lies within `text`.
-    TextPiece(const QString &text, TextBoundaries::Range range) : mText(text), mRange(range) {}
+    TextPiece(QString text, TextBoundaries::Range range) : mText(std::move(text)), mRange(range) {}
 
     QStringList formats() const override;
 

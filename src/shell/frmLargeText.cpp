@@ -16,7 +16,7 @@ namespace {
 constexpr int margin = 4;
 
 /// The most that a scroll bar's value is made to count, with room for its own sums.
-constexpr qreal largestScroll = std::numeric_limits<int>::max() / 2;
+constexpr qreal largestScroll = std::numeric_limits<int>::max() / 2.0;
 
 } // namespace
 

@@ -87,6 +87,22 @@ private Q_SLOTS:
         QVERIFY(shown.view.characterRect(middle).contains(QPoint(100, shown.placeOf(0).y())));
     }
 
+    void aLineWiderThanAScrollBarCanCountIsReachedToItsEnd()
+    {
+        Shown shown{QString()};
+        QFont font = shown.view.font();
+        font.setPixelSize(1000);
+        shown.view.setFont(font);
+        shown.view.setText(QString(4'000'000, QLatin1Char('W')) + QStringLiteral("end"));
+        shown.key(Qt::Key_End);
+        const QRect last = shown.view.characterRect(shown.caret() - 1);
+        QVERIFY(last.right() > 0 && last.right() < shown.view.viewport()->width());
+        shown.key(Qt::Key_Home);
+        QCOMPARE(shown.view.horizontalScrollBar()->value(), 0);
+        shown.view.reveal(2'000'000);
+        QVERIFY(shown.view.characterRect(2'000'000).intersects(shown.view.viewport()->rect()));
+    }
+
     void everyCharacterOfALongLineIsWhereItIsSaidToBe()
     {
         const QString text = QStringLiteral("a\tb\u6f22 ").repeated(1500);

@@ -209,6 +209,15 @@ private Q_SLOTS:
         shown.key(Qt::Key_Return);
         QCOMPARE(shown.view.text(), QStringLiteral("abc"));
     }
+
+    void whileTheProgramIsEndingNoKeyDoesAnything()
+    {
+        Shown shown(QStringLiteral("abc"));
+        shown.services.program.end(1);
+        shown.key(Qt::Key_Right);
+        shown.key(Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(shown.selection(), (Range{0, 0}));
+    }
 };
 
 QTEST_MAIN(tst_frmLargeTextKeys)

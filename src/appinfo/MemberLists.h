@@ -19,15 +19,4 @@ bool isSystemList(const QString &name);
 /// empty for the whole dimension. Fails as the dimension's operations do.
 QList<hfm::MemberId> members(hfm::Dimension &dimension, const QString &name, const QString &top);
 
-/// A line for each member: its label, and " **" behind that of a parent. A member that cannot be
-/// asked whether it is one is none. Fails as GetMemberLabel does, and with RuntimeError Overflow
-/// at more than 32,767 members.
-QStringList lines(hfm::Dimension &dimension, const QList<hfm::MemberId> &members);
-
-/// What stands over the members of a list, `dimension` being the dimension's word:
-/// "Entity list  EUROPE  -  12 members".
-QString heading(const QString &dimension, const QString &name, qsizetype memberCount);
-/// What stands there when the list holds no member.
-QString headingOfEmpty(const QString &dimension);
-
 } // namespace MemberLists

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "appinfo/frmTabControls.h"
+#include "shell/frmTabControls.h"
 
 #include <QLineEdit>
 

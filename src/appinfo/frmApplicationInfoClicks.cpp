@@ -8,6 +8,7 @@
 #include "runtime/Required.h"
 #include "shell/frmHourglass.h"
 #include "shell/frmLargeText.h"
+#include "shell/ListMembers.h"
 
 hfm::Dimension &frmApplicationInfo::makeCurrent(std::optional<ApplicationDimension> dimension)
 {
@@ -127,11 +128,11 @@ void frmApplicationInfo::showList(ApplicationDimension dimensionKind, bool refre
         MemberLists::members(dimension, name, parents->currentText());
     TabControls::setLines(mMemberLists.lstMembersInList, {});
     if (members.isEmpty()) {
-        mMemberLists.lblMembersInList->setText(MemberLists::headingOfEmpty(word));
+        mMemberLists.lblMembersInList->setText(ListMembers::headingOfEmpty(word));
         return;
     }
-    TabControls::setLines(mMemberLists.lstMembersInList, MemberLists::lines(dimension, members));
-    mMemberLists.lblMembersInList->setText(MemberLists::heading(word, name, members.size()));
+    TabControls::setLines(mMemberLists.lstMembersInList, ListMembers::lines(dimension, members));
+    mMemberLists.lblMembersInList->setText(ListMembers::heading(word, name, members.size()));
     if (refreshesParents)
         TabControls::setEntries(parents, QStringList{QString()} + parentLabels(dimension), 0);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "appinfo/ApplicationDimensions.h"
-#include "appinfo/frmTabControls.h"
+#include "shell/frmTabControls.h"
 
 /// "Member &Lists ": its controls, made, captioned and laid out on `page`.
 struct frmMemberListsTab

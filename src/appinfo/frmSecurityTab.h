@@ -1,7 +1,7 @@
 #pragma once
 
-#include "appinfo/frmTabControls.h"
 #include "appinfo/SecurityAccess.h"
+#include "shell/frmTabControls.h"
 
 /// "&Security": its controls, made, captioned and laid out on `page`.
 struct frmSecurityTab

@@ -1,4 +1,5 @@
 #include "appinfo/MemberLists.h"
+#include "shell/ListMembers.h"
 #include "support/Errors.h"
 #include "support/FakeHfm.h"
 
@@ -23,7 +24,7 @@ private:
     static QStringList shown(hfm::Dimension &dimension, const QString &list,
                              const QString &top = {})
     {
-        return MemberLists::lines(dimension, MemberLists::members(dimension, list, top));
+        return ListMembers::lines(dimension, MemberLists::members(dimension, list, top));
     }
 
 private Q_SLOTS:
@@ -123,19 +124,6 @@ private Q_SLOTS:
         const auto error = errorOf([&] { shown(entity, u"[Base]"_s); });
         QVERIFY(error);
         QCOMPARE(error->number(), Overflow);
-    }
-
-    void theHeadingNamesDimensionListAndNumberOfMembers()
-    {
-        QCOMPARE(MemberLists::heading(u"Entity"_s, u"Europe"_s, 12),
-                 u"Entity list  EUROPE  -  12 members"_s);
-        QCOMPARE(MemberLists::heading(u"ICP"_s, u"[Base]"_s, 1),
-                 u"ICP list  [BASE]  -  1 members"_s);
-    }
-
-    void theHeadingOfAnEmptyListIsTheDimensionsWordAndList()
-    {
-        QCOMPARE(MemberLists::headingOfEmpty(u"Account"_s), u"Account list  "_s);
     }
 };
 

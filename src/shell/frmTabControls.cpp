@@ -1,4 +1,4 @@
-#include "appinfo/frmTabControls.h"
+#include "shell/frmTabControls.h"
 
 #include "shell/frmLargeText.h"
 

@@ -40,7 +40,7 @@ frmApplicationInfo::frmApplicationInfo(Services &services, modGlobal &global, QW
     connectMemberLists();
     connectSecurity();
     const QFontMetrics font = fontMetrics();
-    resize(sizeHint().expandedTo({100 * font.averageCharWidth(), 34 * font.lineSpacing()}));
+    resize(sizeHint().expandedTo({112 * font.averageCharWidth(), 40 * font.lineSpacing()}));
     Form_Load();
 }
 

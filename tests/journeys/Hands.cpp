@@ -5,6 +5,8 @@
 #include <QAction>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTest>
 
 #include <cstdio>
@@ -87,6 +89,18 @@ void Hands::choose(QWidget &window, const char *control, const QString &entry)
         chooseIn(*view, entry);
     else
         lost(window, control, "is no list");
+}
+
+void Hands::tab(QWidget &window, const char *control, const QString &caption)
+{
+    usable(window, control);
+    QTabBar &bar = *find<QTabWidget>(window, control).tabBar();
+    int index = 0;
+    while (index < bar.count() && bar.tabText(index) != caption)
+        ++index;
+    if (index == bar.count() || !bar.isTabEnabled(index))
+        lost(window, control, qPrintable(QStringLiteral("has no usable tab ") + caption));
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(index).center());
 }
 
 void Hands::menu(QWidget &window, const char *action)

@@ -13,6 +13,8 @@ void click(QWidget &window, const char *control);
 void type(QWidget &window, const char *control, const QString &text);
 /// Chooses the entry of that text in a combo box or a list, as a click on it does.
 void choose(QWidget &window, const char *control, const QString &entry);
+/// Brings the tab of that caption to the front, as a click on it does.
+void tab(QWidget &window, const char *control, const QString &caption);
 /// Triggers a menu entry, queued like click().
 void menu(QWidget &window, const char *action);
 

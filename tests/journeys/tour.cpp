@@ -2,6 +2,7 @@
 // Meridian, driven from outside its windows. It is linked with the program's own main.cpp and
 // takes the folder for pictures and files as its argument.
 
+#include "ApplicationInfoTour.h"
 #include "Hands.h"
 #include "Journey.h"
 
@@ -113,6 +114,7 @@ void startTour()
     logOn(*journey);
     extractEntities(*journey);
     save(*journey);
+    informAboutApplication(*journey);
     leave(*journey);
     journey->start();
 }

@@ -84,6 +84,7 @@ hfm::ListId FakeDimension::GetMemberListId(const QString &listName)
 QList<MemberId> FakeDimension::EnumMemberListMembers(hfm::ListId list, MemberId top)
 {
     mData->calls->enter("EnumMemberListMembers"_L1);
+    mListAsked = {list, top};
     if (const auto found = mLists.members(list, mData->members, top))
         return *found;
     throw fakeClientError();

@@ -45,6 +45,8 @@ public:
     void addUserList(const QString &name, const QStringList &labels);
     /// Leaves the dimension without any list, the system lists included.
     void clearLists() { mLists.clear(); }
+    /// The list and the top member of the latest EnumMemberListMembers.
+    std::pair<hfm::ListId, hfm::MemberId> listAsked() const { return mListAsked; }
 
     // hfm::Dimension.
 
@@ -81,4 +83,5 @@ private:
     QString mName;
     std::shared_ptr<FakeDimensionData> mData;
     FakeLists mLists;
+    std::pair<hfm::ListId, hfm::MemberId> mListAsked;
 };

@@ -53,7 +53,7 @@ class AppFile
 public:
     AppFile(QIODevice &device, SourceFile source, const Survey &survey, ApplicationDraft &draft)
         : mReader(device, draft.warnings.fileName(source), survey.encoding), mSource(source),
-          mDelimiter(survey.delimiter), mDraft(draft)
+          mSurvey(survey), mDelimiter(survey.delimiter), mDraft(draft)
     {
     }
 
@@ -66,14 +66,22 @@ public:
             else if (mSection && !trimmed(line).isEmpty())
                 readLine(line);
         }
+        finishSection();
     }
 
 private:
     void enter(const SectionHeader &header)
     {
+        finishSection();
         mColumnsMayFollow = true;
         mRecordsNameParents = false;
         mSection = section(header);
+    }
+
+    void finishSection()
+    {
+        if (mSection)
+            mSection->finish();
     }
 
     void readLine(QByteArrayView line)
@@ -128,8 +136,10 @@ private:
             if (!dimension)
                 return nullptr;
             auto &section = mSections[{known.kind, *dimension}];
-            if (!section)
+            if (!section) {
                 section = newSection(known.kind, *dimension);
+                makeRoom(known.kind, *dimension, header);
+            }
             mRecordsNameParents = known.kind == SectionKind::Members &&
                                   *dimension != DimensionKind::Value &&
                                   *dimension != DimensionKind::ICP;
@@ -153,6 +163,17 @@ private:
             break;
         }
         return kind == SectionKind::SecurityClasses;
+    }
+
+    void makeRoom(SectionKind kind, DimensionKind dimension, const SectionHeader &header)
+    {
+        const auto found = mSurvey.records.find(sectionKey(header.name, header.argument));
+        if (found == mSurvey.records.end())
+            return;
+        if (kind == SectionKind::Members)
+            mDraft.dimension(dimension).reserveMembers(size_t(found->second));
+        else if (kind == SectionKind::Hierarchies)
+            mDraft.dimension(dimension).reserveEdges(size_t(found->second));
     }
 
     std::unique_ptr<Section> newSection(SectionKind kind, DimensionKind dimension)
@@ -195,6 +216,7 @@ private:
 
     LineReader mReader;
     SourceFile mSource;
+    const Survey &mSurvey;
     char mDelimiter;
     ApplicationDraft &mDraft;
     std::map<std::pair<SectionKind, DimensionKind>, std::unique_ptr<Section>> mSections;

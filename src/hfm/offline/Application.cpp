@@ -59,7 +59,6 @@ std::shared_ptr<const Application> finishApplication(ApplicationDraft &draft,
     dimensions.reserve(allDimensionKinds.size());
     for (const DimensionKind kind : allDimensionKinds)
         dimensions.push_back(storeDimension(draft, kind, std::move(additions.lists[size_t(kind)])));
-    draft.arena->squeeze();
     draft.descriptions.squeeze();
 
     auto application =

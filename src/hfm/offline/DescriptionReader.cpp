@@ -4,9 +4,9 @@
 
 namespace hfm::offline {
 
-DescriptionRange DescriptionReader::read(const Fields &fields, qsizetype first, Place place)
+void DescriptionReader::look(const Fields &fields, qsizetype first, Place place, Found &found)
 {
-    DescriptionRange range = mDraft.descriptions.begin();
+    found.clear();
     for (qsizetype i = first; i < fields.count(); ++i) {
         const QByteArrayView field = fields.at(i);
         if (field.isEmpty())
@@ -19,10 +19,16 @@ DescriptionRange DescriptionReader::read(const Fields &fields, qsizetype first, 
                     .arg(quoted(field));
             });
         } else if (!description->value.isEmpty()) {
-            mDraft.descriptions.add(range, quint16(language),
-                                    mDraft.pool.intern(description->value));
+            found.push_back({language, mDraft.pool.key(description->value)});
         }
     }
+}
+
+DescriptionRange DescriptionReader::store(const Found &found)
+{
+    DescriptionRange range = mDraft.descriptions.begin();
+    for (const One &one : found)
+        mDraft.descriptions.add(range, quint16(one.language), mDraft.pool.intern(one.text));
     return range;
 }
 

@@ -46,8 +46,8 @@ public:
     }
 
 private:
-    std::vector<quint16> mLanguages;
-    std::vector<TextRef> mTexts;
+    LargeVector<quint16> mLanguages;
+    LargeVector<TextRef> mTexts;
 };
 
 } // namespace hfm::offline

@@ -2,16 +2,21 @@
 
 #include "hfm/offline/Syntax.h"
 
+#include <algorithm>
+#include <numeric>
+
 namespace hfm::offline {
 
 namespace {
 
+constexpr size_t mostReserved = size_t(1) << 22;
+
 template <typename Value>
-void renumber(std::vector<Value> &values, const std::vector<MemberId> &newNumbers)
+void renumber(LargeVector<Value> &values, const std::vector<MemberId> &newNumbers)
 {
     if (values.empty())
         return;
-    std::vector<Value> renumbered(newNumbers.size());
+    LargeVector<Value> renumbered(newNumbers.size());
     for (size_t i = 0; i < values.size(); ++i)
         renumbered[size_t(newNumbers[i])] = values[i];
     values.swap(renumbered);
@@ -21,26 +26,62 @@ void renumber(std::vector<Value> &values, const std::vector<MemberId> &newNumber
 
 MemberId DimensionDraft::noteNew(MemberId id, Origin origin, Place place)
 {
-    if (size_t(id) == mMembers.size()) {
-        mMembers.emplace_back();
-        mMembers.back().origin = origin;
-        mMembers.back().place = place;
+    if (size_t(id) == mOrigins.size()) {
+        mOrigins.push_back(origin);
+        mPlaces.push_back(place);
+        mDefaultParents.push_back(noDefaultParent);
+        mDescriptions.emplace_back();
     }
     return id;
 }
 
-MemberId DimensionDraft::addRecord(QByteArrayView label, Place place)
+void DimensionDraft::reserveMembers(size_t further)
+{
+    further = std::min(further, mostReserved);
+    const size_t all = mOrigins.size() + further;
+    mLabels.reserve(further);
+    mOrigins.reserve(all);
+    mPlaces.reserve(all);
+    mDefaultParents.reserve(all);
+    mDescriptions.reserve(all);
+    if (mKind == DimensionKind::Entity)
+        entities.reserve(all);
+    else if (mKind == DimensionKind::Account)
+        accounts.reserve(all);
+    else if (isCustom(mKind))
+        customs.reserve(all);
+}
+
+void DimensionDraft::reserveEdges(size_t further)
+{
+    further = std::min(further, mostReserved);
+    mEdges.reserve(mEdges.size() + further);
+    mEdgePlaces.reserve(mEdgePlaces.size() + further);
+}
+
+MemberId DimensionDraft::addRecord(const Labels::Key &label, Place place)
 {
     const qint32 before = count();
     const MemberId id = noteNew(mLabels.findOrAdd(label), Origin::Record, place);
     if (id < before) {
-        if (member(id).origin == Origin::Record)
+        if (origin(id) == Origin::Record)
             return -1;
-        member(id).origin = Origin::Record;
-        member(id).place = place;
+        mOrigins[size_t(id)] = Origin::Record;
+        mPlaces[size_t(id)] = place;
     }
-    mRecords.push_back(id);
+    noteRecord(id);
     return id;
+}
+
+void DimensionDraft::noteRecord(MemberId id)
+{
+    if (mRecords.empty() && id != mRecordCount) {
+        mRecords.resize(size_t(mRecordCount));
+        std::iota(mRecords.begin(), mRecords.end(), 0);
+    }
+    if (!mRecords.empty() || id != mRecordCount)
+        mRecords.push_back(id);
+    ++mRecordCount;
 }
 
 MemberId DimensionDraft::findOrAdd(QByteArrayView label, Origin origin, Place place)
@@ -56,63 +97,76 @@ MemberId DimensionDraft::findOrAdd(TextRef label, Origin origin, Place place)
 void DimensionDraft::setDefaultParent(MemberId id, QByteArrayView label, TextArena &arena)
 {
     if (label.isEmpty() || sameWord(label, rootLabel)) {
-        member(id).defaultParent = rootMember;
+        mDefaultParents[size_t(id)] = rootMember;
         return;
     }
-    if (mLastParent == rootMember || mLabels.at(mLastParent) != label) {
-        const MemberId parent = mLabels.find(label);
-        if (parent < 0) {
-            mNamedParents.push_back({id, arena.add(label)});
-            return;
-        }
-        mLastParent = parent;
+    MemberId parent = parentNear(id, label);
+    if (parent < 0)
+        parent = mLabels.find(label);
+    if (parent < 0)
+        mNamedParents.push_back({id, arena.add(label)});
+    else
+        mDefaultParents[size_t(id)] = parent;
+}
+
+/// Files list members in the order of their hierarchy, as a rule: then a member's parent is the
+/// member before it or among those above that one. -1 where it is not so.
+MemberId DimensionDraft::parentNear(MemberId id, QByteArrayView label) const
+{
+    constexpr int mostSteps = 8;
+    MemberId candidate = id - 1;
+    for (int step = 0; step < mostSteps && candidate >= 0; ++step) {
+        if (mLabels.at(candidate) == label)
+            return candidate;
+        candidate = defaultParent(candidate);
     }
-    member(id).defaultParent = mLastParent;
+    return -1;
 }
 
 void DimensionDraft::resolveDefaultParents(const TextArena &arena)
 {
     for (const NamedParent &named : mNamedParents) {
         const MemberId parent = mLabels.find(arena.at(named.parent));
-        member(named.member).defaultParent = parent >= 0 ? parent : unknownDefaultParent;
+        mDefaultParents[size_t(named.member)] = parent >= 0 ? parent : unknownDefaultParent;
     }
     mNamedParents = {};
 }
 
 void DimensionDraft::putRecordsFirst()
 {
+    if (mRecords.empty())
+        return; // they are first already
     std::vector<MemberId> newNumbers(size_t(count()), -1);
     MemberId next = 0;
     for (const MemberId id : mRecords)
         newNumbers[size_t(id)] = next++;
-    bool changed = false;
-    for (MemberId id = 0; id < count(); ++id) {
-        MemberId &number = newNumbers[size_t(id)];
+    for (MemberId &number : newNumbers) {
         if (number < 0)
             number = next++;
-        changed |= number != id;
     }
     mRecords = {};
-    if (!changed)
-        return;
 
     const auto renewed = [&](MemberId id) { return id < 0 ? id : newNumbers[size_t(id)]; };
     mLabels.renumber(newNumbers);
-    renumber(mMembers, newNumbers);
+    renumber(mOrigins, newNumbers);
+    renumber(mPlaces, newNumbers);
+    renumber(mDefaultParents, newNumbers);
+    renumber(mDescriptions, newNumbers);
     renumber(entities, newNumbers);
     renumber(accounts, newNumbers);
     renumber(customs, newNumbers);
-    for (MemberDraft &draft : mMembers)
-        draft.defaultParent = renewed(draft.defaultParent);
+    for (MemberId &parent : mDefaultParents)
+        parent = renewed(parent);
     for (NamedParent &named : mNamedParents)
         named.member = renewed(named.member);
     for (Edge &edge : mEdges)
         edge = {renewed(edge.parent), renewed(edge.child)};
-    mLastParent = rootMember;
 }
 
-void DimensionDraft::dropEdges()
+void DimensionDraft::dropPlacesAndEdges()
 {
+    mOrigins = {};
+    mPlaces = {};
     mEdges = {};
     mEdgePlaces = {};
 }

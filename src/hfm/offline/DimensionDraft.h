@@ -21,14 +21,6 @@ enum class Origin : quint8 {
     Client,    ///< every application has it
 };
 
-struct MemberDraft
-{
-    DescriptionRange descriptions;
-    Origin origin = Origin::Record;
-    MemberId defaultParent = noDefaultParent;
-    Place place; ///< its record, else where it was met first
-};
-
 /// A dimension while it is read. Members are numbered as they are met; finishing the draft gives
 /// them their IDs.
 class DimensionDraft
@@ -39,21 +31,27 @@ public:
     DimensionKind kind() const { return mKind; }
     const Labels &labels() const { return mLabels; }
     qint32 count() const { return mLabels.count(); }
-    MemberDraft &member(MemberId id) { return mMembers[size_t(id)]; }
-    const MemberDraft &member(MemberId id) const { return mMembers[size_t(id)]; }
+    Origin origin(MemberId id) const { return mOrigins[size_t(id)]; }
+    /// Where the member's record is, else where it was met first.
+    Place place(MemberId id) const { return mPlaces[size_t(id)]; }
+    /// noDefaultParent and unknownDefaultParent included.
+    MemberId defaultParent(MemberId id) const { return mDefaultParents[size_t(id)]; }
+    const DescriptionRange &descriptions(MemberId id) const { return mDescriptions[size_t(id)]; }
+    void setDescriptions(MemberId id, const DescriptionRange &range)
+    {
+        mDescriptions[size_t(id)] = range;
+    }
+
+    /// Makes room for so many members, or lines of a hierarchy, more. What a file promises beyond
+    /// a few million is believed when it is met.
+    void reserveMembers(size_t further);
+    void reserveEdges(size_t further);
 
     /// The member of a record; -1 where another record had that label before.
-    MemberId addRecord(QByteArrayView label, Place place);
+    MemberId addRecord(const Labels::Key &label, Place place);
     /// The member of that label, which becomes one of that origin if there is none.
     MemberId findOrAdd(QByteArrayView label, Origin origin, Place place);
     MemberId findOrAdd(TextRef label, Origin origin, Place place);
-    /// The member that most probably stands after `id` in a hierarchy section is told by this: the
-    /// next one, if it has exactly that label; otherwise -1.
-    MemberId nextIfNamed(MemberId id, QByteArrayView label) const
-    {
-        return id + 1 < count() && mLabels.at(id + 1) == label ? id + 1 : -1;
-    }
-
     /// Notes the default parent that a record names.
     void setDefaultParent(MemberId id, QByteArrayView label, TextArena &arena);
     /// Finds the default parents that were named before they were met. Called at the end.
@@ -64,20 +62,22 @@ public:
         mEdges.push_back(edge);
         mEdgePlaces.push_back(place);
     }
-    const std::vector<Edge> &edges() const { return mEdges; }
+    const LargeVector<Edge> &edges() const { return mEdges; }
     Place edgePlace(qsizetype edge) const { return mEdgePlaces[size_t(edge)]; }
 
     /// Puts the members that have a record before those that a hierarchy section named earlier.
     void putRecordsFirst();
 
     Labels takeLabels() { return std::move(mLabels); }
-    /// Gives back the memory of the edges.
-    void dropEdges();
+    LargeVector<MemberId> takeDefaultParents() { return std::move(mDefaultParents); }
+    LargeVector<DescriptionRange> takeDescriptions() { return std::move(mDescriptions); }
+    /// Gives back the memory of what only the reading needs.
+    void dropPlacesAndEdges();
 
     // By member, as far as members with a record reach; only that of the dimension's kind is used.
-    std::vector<EntityRecord> entities;
-    std::vector<AccountRecord> accounts;
-    std::vector<CustomRecord> customs;
+    LargeVector<EntityRecord> entities;
+    LargeVector<AccountRecord> accounts;
+    LargeVector<CustomRecord> customs;
 
 private:
     struct NamedParent
@@ -87,20 +87,28 @@ private:
     };
 
     MemberId noteNew(MemberId id, Origin origin, Place place);
+    void noteRecord(MemberId id);
+    MemberId parentNear(MemberId id, QByteArrayView label) const;
 
     DimensionKind mKind;
     Labels mLabels;
-    std::vector<MemberDraft> mMembers;
-    std::vector<MemberId> mRecords; ///< the members with a record, in the order of the records
-    std::vector<Edge> mEdges;
-    std::vector<Place> mEdgePlaces;
+    // By member.
+    LargeVector<Origin> mOrigins;
+    LargeVector<Place> mPlaces;
+    LargeVector<MemberId> mDefaultParents;
+    LargeVector<DescriptionRange> mDescriptions;
+    /// The members with a record, in the order of the records, once these are not all of the
+    /// members in their order.
+    LargeVector<MemberId> mRecords;
+    qint32 mRecordCount = 0;
+    LargeVector<Edge> mEdges;
+    LargeVector<Place> mEdgePlaces;
     std::vector<NamedParent> mNamedParents;
-    MemberId mLastParent = rootMember;
 };
 
 /// Entry `id` of a list by member that may still be too short for it.
 template <typename Record>
-Record &recordOf(std::vector<Record> &records, MemberId id)
+Record &recordOf(LargeVector<Record> &records, MemberId id)
 {
     if (size_t(id) >= records.size())
         records.resize(size_t(id) + 1);

@@ -2,7 +2,19 @@
 
 #include "hfm/offline/FieldValues.h"
 
+#include <utility>
+
 namespace hfm::offline {
+
+SiblingGuess::SiblingGuess(const DimensionDraft &dimension)
+    : mFirst(size_t(dimension.count()) + 1, -1), mNext(size_t(dimension.count()), -1)
+{
+    for (MemberId member = dimension.count() - 1; member >= 0; --member) {
+        const MemberId parent = dimension.defaultParent(member);
+        if (parent >= rootMember)
+            mNext[size_t(member)] = std::exchange(mFirst[size_t(parent + 1)], member);
+    }
+}
 
 HierarchySection::HierarchySection(ApplicationDraft &draft, DimensionKind kind, char delimiter)
     : mDraft(draft), mDimension(draft.dimension(kind)), mDelimiter(delimiter),
@@ -45,7 +57,7 @@ void HierarchySection::readRecord(QByteArrayView line, Place place)
                 .arg(quoted(mFields.at(mFirst + 2)));
         });
     const MemberId parentId = parent(mFields.at(mFirst + mParentIndex), place);
-    mDimension.addEdge({parentId, child(childLabel, place)}, place);
+    mDimension.addEdge({parentId, child(parentId, childLabel, place)}, place);
 }
 
 /// In a file that is delimited by '#', the parent "#root" falls into an empty field and "root".
@@ -65,11 +77,17 @@ MemberId HierarchySection::parent(QByteArrayView label, Place place)
     return mLastParent;
 }
 
-MemberId HierarchySection::child(QByteArrayView label, Place place)
+MemberId HierarchySection::child(MemberId parentId, QByteArrayView label, Place place)
 {
-    const MemberId next = mDimension.nextIfNamed(mLastChild, label);
-    mLastChild = next >= 0 ? next : mDimension.findOrAdd(label, Origin::Hierarchy, place);
-    return mLastChild;
+    if (!mSiblings)
+        mSiblings.emplace(mDimension);
+    if (parentId != mChildrenOf || mExpected < 0) {
+        mChildrenOf = parentId;
+        mExpected = mSiblings->first(parentId);
+    }
+    if (mExpected < 0 || mDimension.labels().at(mExpected) != label)
+        return mDimension.findOrAdd(label, Origin::Hierarchy, place);
+    return std::exchange(mExpected, mSiblings->after(mExpected));
 }
 
 } // namespace hfm::offline

@@ -1,5 +1,6 @@
 #include "hfm/offline/Labels.h"
 
+#include "hfm/offline/Prefetch.h"
 #include "runtime/RuntimeError.h"
 
 #include <QHashFunctions>
@@ -55,20 +56,27 @@ qint32 Labels::find(QByteArrayView label) const
     return mSlots.empty() ? -1 : mSlots[slotFor(hashOf(label), label)].index;
 }
 
-qint32 Labels::findOrAdd(QByteArrayView label)
+Labels::Key Labels::key(QByteArrayView label) const
 {
-    growIfNeeded();
     const quint32 hash = hashOf(label);
-    const size_t slot = slotFor(hash, label);
-    return mSlots[slot].index >= 0 ? mSlots[slot].index : put(slot, hash, mArena->add(label));
+    if (!mSlots.empty())
+        prefetch(&mSlots[hash & (mSlots.size() - 1)]);
+    return {label, hash};
 }
 
-qint32 Labels::findOrAdd(TextRef label)
+qint32 Labels::findOrAdd(const Key &key)
 {
     growIfNeeded();
-    const quint32 hash = hashOf(mArena->at(label));
-    const size_t slot = slotFor(hash, mArena->at(label));
-    return mSlots[slot].index >= 0 ? mSlots[slot].index : put(slot, hash, label);
+    const size_t slot = slotFor(key.hash, key.label);
+    return mSlots[slot].index >= 0 ? mSlots[slot].index
+                                   : put(slot, key.hash, mArena->add(key.label));
+}
+
+qint32 Labels::findOrAdd(const Key &key, TextRef label)
+{
+    growIfNeeded();
+    const size_t slot = slotFor(key.hash, key.label);
+    return mSlots[slot].index >= 0 ? mSlots[slot].index : put(slot, key.hash, label);
 }
 
 /// The slot that holds the label, or the free one where it belongs.
@@ -91,11 +99,27 @@ qint32 Labels::put(size_t slot, quint32 hash, TextRef ref)
     return count() - 1;
 }
 
+void Labels::reserve(size_t further)
+{
+    const size_t labels = mRefs.size() + further;
+    mRefs.reserve(labels);
+    size_t slots = std::max<size_t>(16, mSlots.size());
+    while (3 * labels >= 2 * slots)
+        slots *= 2;
+    growTo(slots);
+}
+
 void Labels::growIfNeeded()
 {
-    if (2 * mRefs.size() < mSlots.size())
+    if (3 * mRefs.size() >= 2 * mSlots.size())
+        growTo(std::max<size_t>(16, 2 * mSlots.size()));
+}
+
+void Labels::growTo(size_t slots)
+{
+    if (slots <= mSlots.size())
         return;
-    std::vector<Slot> old(std::max<size_t>(16, 2 * mSlots.size()), Slot{0, -1});
+    LargeVector<Slot> old(slots, Slot{0, -1});
     old.swap(mSlots);
     const size_t mask = mSlots.size() - 1;
     for (const Slot &slot : old) {
@@ -110,7 +134,7 @@ void Labels::growIfNeeded()
 
 void Labels::renumber(const std::vector<qint32> &newNumbers)
 {
-    std::vector<TextRef> refs(mRefs.size());
+    LargeVector<TextRef> refs(mRefs.size());
     for (size_t i = 0; i < mRefs.size(); ++i)
         refs[size_t(newNumbers[i])] = mRefs[i];
     mRefs.swap(refs);

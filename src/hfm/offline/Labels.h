@@ -19,13 +19,27 @@ public:
     QString text(qint32 index) const { return mArena->text(mRefs[size_t(index)]); }
     TextRef ref(qint32 index) const { return mRefs[size_t(index)]; }
 
+    /// Makes room for that many labels more.
+    void reserve(size_t further);
+
+    /// A label that is about to be looked for. Between making the key and using it the table's part
+    /// is fetched.
+    struct Key
+    {
+        QByteArrayView label;
+        quint32 hash;
+    };
+    Key key(QByteArrayView label) const;
+
     /// The label's number, or -1.
     qint32 find(QByteArrayView label) const;
     /// The label's number; adds it where there is none of that name. Fails with RuntimeError
     /// OutOfMemory when there are more than the numbers reach.
-    qint32 findOrAdd(QByteArrayView label);
+    qint32 findOrAdd(const Key &key);
+    qint32 findOrAdd(QByteArrayView label) { return findOrAdd(key(label)); }
     /// The same, for a label that the arena holds already.
-    qint32 findOrAdd(TextRef label);
+    qint32 findOrAdd(const Key &key, TextRef label);
+    qint32 findOrAdd(TextRef label) { return findOrAdd(key(mArena->at(label)), label); }
 
     /// Numbers the labels anew: `newNumbers[i]` becomes the number of the label numbered i.
     void renumber(const std::vector<qint32> &newNumbers);
@@ -39,11 +53,12 @@ private:
 
     size_t slotFor(quint32 hash, QByteArrayView label) const;
     qint32 put(size_t slot, quint32 hash, TextRef ref);
+    void growTo(size_t slots);
     void growIfNeeded();
 
     TextArena *mArena;
-    std::vector<TextRef> mRefs;
-    std::vector<Slot> mSlots;
+    LargeVector<TextRef> mRefs;
+    LargeVector<Slot> mSlots;
 };
 
 } // namespace hfm::offline

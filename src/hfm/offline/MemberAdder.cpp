@@ -23,9 +23,8 @@ MemberId MemberAdder::add(TextRef label, MemberId parent, const DescriptionRange
                           bool placeThoseOfFiles)
 {
     const MemberId id = add(label, parent, placeThoseOfFiles);
-    MemberDraft &member = mDimension.member(id);
-    if (member.origin == Origin::Client)
-        member.descriptions = descriptions;
+    if (mDimension.origin(id) == Origin::Client)
+        mDimension.setDescriptions(id, descriptions);
     return id;
 }
 
@@ -33,7 +32,7 @@ MemberId MemberAdder::place(MemberId id, MemberId parent, bool placeThoseOfFiles
 {
     if (size_t(id) >= mPlaced.size())
         mPlaced.resize(size_t(id) + 1);
-    const bool ours = mDimension.member(id).origin == Origin::Client;
+    const bool ours = mDimension.origin(id) == Origin::Client;
     if (!mPlaced[size_t(id)] && (ours || placeThoseOfFiles)) {
         mPlaced[size_t(id)] = true;
         mDimension.addEdge({parent, id}, {});

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "hfm/offline/AttributeReader.h"
 #include "hfm/offline/DescriptionReader.h"
-#include "hfm/offline/Layout.h"
 #include "hfm/offline/Section.h"
 
 namespace hfm::offline {
 
-/// !MEMBERS= of one dimension.
+/// !MEMBERS= of one dimension. Some records are taken apart before the first of them is stored, so
+/// that the parts of the large tables that storing them needs are fetched in the meantime.
 class MemberSection final : public Section
 {
 public:
@@ -14,40 +15,27 @@ public:
 
     void readColumns(const QList<QByteArrayView> &columns) override;
     void readRecord(QByteArrayView line, Place place) override;
+    void finish() override;
 
 private:
-    void findParts();
-    void readDefaultParent(MemberId id);
-    void readAttributes(MemberId id);
-    EntityRecord entity();
-    AccountRecord account();
-    CustomRecord custom();
-
-    QByteArrayView field(Column column) const;
-    UserDefined userDefined();
-    ClassId securityClass();
-    bool flag(Column column);
-    qint8 accountType();
-    qint8 accountIsICP();
-    qint16 decimalPlaces();
-    template <typename Text>
-    void warn(Text text)
+    struct Pending
     {
-        mDraft.warnings.add(mPlace, text);
-    }
+        MemberRecord record;
+        Labels::Key label;
+        DescriptionReader::Found descriptions;
+    };
+
+    void store(const Pending &pending);
+    void storeAttributes(MemberId id, const MemberRecord &record);
 
     ApplicationDraft &mDraft;
     DimensionDraft &mDimension;
     char mDelimiter;
     Layout mLayout;
+    AttributeReader mAttributes;
     DescriptionReader mDescriptions;
-    UserDefined mLastUserDefined = {}; ///< most often the next record has the same again
-
-    // The record that is being read.
-    Fields mFields;
-    Place mPlace;
-    qsizetype mPositional = 0;     ///< how many fields stand before the named ones
-    qsizetype mDefaultParent = -1; ///< index of the DefaultParent field
+    std::array<Pending, 16> mPending;
+    size_t mPendingCount = 0;
 };
 
 } // namespace hfm::offline

@@ -3,6 +3,8 @@
 #include "hfm/offline/Labels.h"
 #include "hfm/offline/Place.h"
 
+#include <array>
+
 namespace hfm::offline {
 
 /// Names that a file mentions again and again (currencies, security classes, languages), each
@@ -10,16 +12,17 @@ namespace hfm::offline {
 class Names
 {
 public:
-    explicit Names(TextArena &arena) : mLabels(arena) {}
+    explicit Names(TextArena &arena) : mLabels(arena) { mRecent.fill(-1); }
 
     /// The name's number; -1 for the empty name.
     qint32 mention(QByteArrayView name, Place place)
     {
         if (name.isEmpty())
             return -1;
-        if (mLast >= 0 && mLabels.at(mLast) == name)
-            return mLast;
-        return note(mLabels.findOrAdd(name), place);
+        qint32 &recent = mRecent[(size_t(name.size()) + uchar(name.back())) % mRecent.size()];
+        if (recent < 0 || mLabels.at(recent) != name)
+            recent = note(mLabels.findOrAdd(name), place);
+        return recent;
     }
     /// The same, for a name that the arena holds already.
     qint32 mention(TextRef name, Place place) { return note(mLabels.findOrAdd(name), place); }
@@ -35,7 +38,6 @@ public:
 private:
     qint32 note(qint32 index, Place place)
     {
-        mLast = index;
         if (index == qint32(mPlaces.size()))
             mPlaces.push_back(place);
         return index;
@@ -43,7 +45,8 @@ private:
 
     Labels mLabels;
     std::vector<Place> mPlaces;
-    qint32 mLast = -1; ///< most often the next one is the same again
+    /// Most often a name is one that was there a little before.
+    std::array<qint32, 64> mRecent;
 };
 
 } // namespace hfm::offline

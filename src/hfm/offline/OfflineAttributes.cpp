@@ -7,7 +7,7 @@ namespace hfm::offline {
 namespace {
 
 template <typename Record>
-const Record &recordAt(const std::vector<Record> &records, MemberId member, DimensionKind kind)
+const Record &recordAt(const LargeVector<Record> &records, MemberId member, DimensionKind kind)
 {
     if (member < 0 || size_t(member) >= records.size())
         failUnknown(QStringLiteral("%1 is not the ID of a member of %2.")

@@ -17,6 +17,8 @@ public:
     virtual void readColumns(const QList<QByteArrayView> &) {}
     /// A line that is neither blank nor a comment.
     virtual void readRecord(QByteArrayView line, Place place) = 0;
+    /// The section ends, or is interrupted by another one.
+    virtual void finish() {}
 };
 
 } // namespace hfm::offline

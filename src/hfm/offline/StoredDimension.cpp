@@ -25,24 +25,20 @@ public:
             refuseCycle(faults);
         for (const qsizetype edge : faults.repeatedEdges)
             warnOfRepetition(edge);
-        std::vector<MemberId> defaultParents = chooseDefaultParents(hierarchy);
-        mDimension.dropEdges();
+        LargeVector<MemberId> defaultParents = chooseDefaultParents(hierarchy);
+        mDimension.dropPlacesAndEdges();
 
-        const auto count = size_t(mDimension.count());
-        std::vector<DescriptionRange> descriptions(count);
-        for (size_t i = 0; i < count; ++i)
-            descriptions[i] = mDimension.member(MemberId(i)).descriptions;
         fill(mDimension.entities, DimensionKind::Entity);
         fill(mDimension.accounts, DimensionKind::Account);
         if (isCustom(mDimension.kind()))
             fill(mDimension.customs, mDimension.kind());
-        std::vector<qint32> generations = generationsAlong(defaultParents);
+        LargeVector<qint32> generations = generationsAlong(defaultParents);
         SystemLists systemLists(mDimension.kind(), hierarchy, std::move(lists));
         return {mDimension.kind(),
                 mDimension.takeLabels(),
                 std::move(hierarchy),
                 std::move(systemLists),
-                std::move(descriptions),
+                mDimension.takeDescriptions(),
                 std::move(defaultParents),
                 std::move(generations),
                 std::move(mDimension.entities),
@@ -80,44 +76,44 @@ private:
         });
     }
 
-    std::vector<MemberId> chooseDefaultParents(const Hierarchy &hierarchy)
+    LargeVector<MemberId> chooseDefaultParents(const Hierarchy &hierarchy)
     {
         const auto count = size_t(mDimension.count());
-        std::vector<MemberId> firstParents(count, noDefaultParent);
+        LargeVector<MemberId> chosen = mDimension.takeDefaultParents();
+        LargeVector<MemberId> firstParents(count, noDefaultParent);
         std::vector<bool> confirmed(count);
         for (const Edge &edge : mDimension.edges()) {
             const auto child = size_t(edge.child);
             if (firstParents[child] == noDefaultParent)
                 firstParents[child] = edge.parent;
-            if (mDimension.member(edge.child).defaultParent == edge.parent)
+            if (chosen[child] == edge.parent)
                 confirmed[child] = true;
         }
-        std::vector<MemberId> &chosen = firstParents;
         for (size_t i = 0; i < count; ++i) {
-            const MemberDraft &member = mDimension.member(MemberId(i));
-            warnOfOrigin(MemberId(i), hierarchy.hasNode(MemberId(i)));
-            if (!hierarchy.hasNode(MemberId(i)))
+            const bool hasNode = hierarchy.hasNode(MemberId(i));
+            warnOfOrigin(MemberId(i), hasNode);
+            if (hasNode && !confirmed[i] && chosen[i] != noDefaultParent)
+                warnOfDefaultParent(MemberId(i), firstParents[i]);
+            if (!hasNode)
                 chosen[i] = rootMember;
-            else if (confirmed[i])
-                chosen[i] = member.defaultParent;
-            else if (member.defaultParent != noDefaultParent)
-                warnOfDefaultParent(MemberId(i), chosen[i]);
+            else if (!confirmed[i])
+                chosen[i] = firstParents[i];
         }
-        return firstParents;
+        return chosen;
     }
 
     void warnOfOrigin(MemberId id, bool hasNode)
     {
-        const MemberDraft &member = mDimension.member(id);
-        if (member.origin == Origin::Hierarchy)
-            mDraft.warnings.add(member.place, [&] {
+        const Origin origin = mDimension.origin(id);
+        const Place place = mDimension.place(id);
+        if (origin == Origin::Hierarchy)
+            mDraft.warnings.add(place, [&] {
                 return QStringLiteral("%1 stands in the hierarchy of %2 and has no record.")
                     .arg(name(id), dimensionName(mDimension.kind()));
             });
-        const bool isOfFiles =
-            member.origin == Origin::Record || member.origin == Origin::Hierarchy;
+        const bool isOfFiles = origin == Origin::Record || origin == Origin::Hierarchy;
         if (isOfFiles && !hasNode)
-            mDraft.warnings.add(member.place, [&] {
+            mDraft.warnings.add(place, [&] {
                 return QStringLiteral("%1 has no place in the hierarchy of %2.")
                     .arg(name(id), dimensionName(mDimension.kind()));
             });
@@ -125,7 +121,7 @@ private:
 
     void warnOfDefaultParent(MemberId id, MemberId chosen)
     {
-        mDraft.warnings.add(mDimension.member(id).place, [&] {
+        mDraft.warnings.add(mDimension.place(id), [&] {
             return QStringLiteral("The default parent of %1 is none of its parents; %2 is taken.")
                 .arg(name(id),
                      chosen == rootMember ? QStringLiteral("the top level") : name(chosen));
@@ -134,9 +130,9 @@ private:
 
     /// Climbs from each member to the first one whose generation is known, and comes back down.
     /// Default parents are parents, so that there is no circle in them.
-    static std::vector<qint32> generationsAlong(const std::vector<MemberId> &parents)
+    static LargeVector<qint32> generationsAlong(const LargeVector<MemberId> &parents)
     {
-        std::vector<qint32> generations(parents.size(), 0);
+        LargeVector<qint32> generations(parents.size(), 0);
         std::vector<MemberId> way;
         for (size_t i = 0; i < parents.size(); ++i) {
             MemberId at = MemberId(i);
@@ -150,7 +146,7 @@ private:
     }
 
     template <typename Record>
-    void fill(std::vector<Record> &records, DimensionKind kind) const
+    void fill(LargeVector<Record> &records, DimensionKind kind) const
     {
         if (mDimension.kind() != kind)
             return;

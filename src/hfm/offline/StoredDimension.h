@@ -18,14 +18,14 @@ struct StoredDimension
     SystemLists lists;
 
     // By member ID.
-    std::vector<DescriptionRange> descriptions;
-    std::vector<MemberId> defaultParents; ///< rootMember for a member without a node
+    LargeVector<DescriptionRange> descriptions;
+    LargeVector<MemberId> defaultParents; ///< rootMember for a member without a node
     /// The generation of the member, counted along default parents: 1 at the top level.
-    std::vector<qint32> generations;
+    LargeVector<qint32> generations;
     // By member ID in the dimension of that kind, else empty.
-    std::vector<EntityRecord> entities;
-    std::vector<AccountRecord> accounts;
-    std::vector<CustomRecord> customs;
+    LargeVector<EntityRecord> entities;
+    LargeVector<AccountRecord> accounts;
+    LargeVector<CustomRecord> customs;
 
     bool isMember(MemberId id) const { return id >= 0 && id < labels.count(); }
 };

@@ -88,6 +88,30 @@ private:
     char mByDefaultParent = '\0';
 };
 
+class RecordCounter
+{
+public:
+    explicit RecordCounter(Survey &survey) : mSurvey(survey) {}
+
+    void enterSection(const SectionHeader &header)
+    {
+        constexpr size_t mostSections = 64;
+        const QByteArray key = sectionKey(header.name, header.argument);
+        const bool isCounted =
+            mSurvey.records.size() < mostSections || mSurvey.records.contains(key);
+        mCount = isCounted ? &mSurvey.records[key] : nullptr;
+    }
+    void count()
+    {
+        if (mCount)
+            ++*mCount;
+    }
+
+private:
+    Survey &mSurvey;
+    qint64 *mCount = nullptr;
+};
+
 /// Takes from a header what the reading must know beforehand.
 void noteHeader(const SectionHeader &header, const LineReader &reader, Survey &survey,
                 QByteArray &customOrder)
@@ -116,6 +140,11 @@ QList<QByteArray> namesIn(QByteArrayView customOrder, char delimiter)
 
 } // namespace
 
+QByteArray sectionKey(QByteArrayView name, QByteArrayView argument)
+{
+    return (name.toByteArray() + '=' + argument.toByteArray()).toLower();
+}
+
 Survey surveyFile(QIODevice &device, const QString &fileName)
 {
     constexpr qint64 startLength = 4096;
@@ -132,15 +161,18 @@ Survey surveyFile(QIODevice &device, const QString &fileName)
     if (!found.certain)
         reader.observe([&utf8](QByteArrayView piece) { utf8.feed(piece); });
 
+    RecordCounter counter(survey);
     DelimiterSearch delimiter;
     QByteArray customOrder;
     while (reader.next()) {
         const QByteArrayView line = reader.line();
         if (const auto header = sectionHeader(line)) {
             delimiter.enterSection(header->name);
+            counter.enterSection(*header);
             noteHeader(*header, reader, survey, customOrder);
         } else if (!line.isEmpty()) {
             delimiter.look(line);
+            counter.count();
         }
     }
     survey.lines = reader.number();

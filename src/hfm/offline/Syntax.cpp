@@ -45,6 +45,7 @@ std::optional<Assignment> assignment(QByteArrayView field)
 void Fields::split(QByteArrayView record, char delimiter)
 {
     mFields.clear();
+    mCut = false;
     const char *begin = record.data();
     const char *const end = begin + record.size();
     while (true) {
@@ -55,6 +56,10 @@ void Fields::split(QByteArrayView record, char delimiter)
         if (!found)
             return;
         begin = found + 1;
+        if (count() == mostFields) {
+            mCut = true;
+            return;
+        }
     }
 }
 

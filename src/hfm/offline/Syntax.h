@@ -60,7 +60,13 @@ std::optional<Assignment> assignment(QByteArrayView field);
 class Fields
 {
 public:
+    /// Beyond this many a line is no record; the rest of it is not split.
+    static constexpr qsizetype mostFields = 1 << 16;
+
     void split(QByteArrayView record, char delimiter);
+
+    /// Whether there are more than mostFields.
+    bool isCut() const { return mCut; }
 
     qsizetype count() const { return qsizetype(mFields.size()); }
     /// Empty where the record has fewer fields.
@@ -74,14 +80,8 @@ public:
 
 private:
     std::vector<QByteArrayView> mFields;
+    bool mCut = false;
 };
-
-/// The value of a DefaultParent field.
-inline QByteArrayView defaultParentValue(QByteArrayView field)
-{
-    constexpr qsizetype prefix = sizeof("DefaultParent=") - 1;
-    return trimmed(field.sliced(prefix));
-}
 
 /// How HFM writes the parent of a top-level member.
 inline constexpr QByteArrayView rootLabel = "#root";

@@ -77,10 +77,12 @@ std::vector<SystemList> listsOf(DimensionKind kind, qint32 generations)
 /// Sorts `members` into tree order and leaves each in once.
 void bringIntoTreeOrder(QList<MemberId> &members, const Hierarchy &hierarchy)
 {
-    std::sort(members.begin(), members.end(), [&](MemberId left, MemberId right) {
-        return hierarchy.rank(left) < hierarchy.rank(right);
-    });
-    members.erase(std::unique(members.begin(), members.end()), members.end());
+    std::vector<MemberId> byRank(size_t(hierarchy.memberCount()), rootMember);
+    for (const MemberId member : members)
+        byRank[size_t(hierarchy.rank(member))] = member;
+    members.clear();
+    std::ranges::copy_if(byRank, std::back_inserter(members),
+                         [](MemberId member) { return member != rootMember; });
 }
 
 /// Those of `members` that are below `top`, in the order in which they stand there.

@@ -1,5 +1,6 @@
 #include "hfm/offline/SystemMembers.h"
 
+#include <algorithm>
 #include <array>
 
 namespace hfm::offline {
@@ -108,10 +109,17 @@ GivenLists addIntercompany(ApplicationDraft &draft)
     const MemberId none = adder.add(QByteArrayView("[ICP None]"), top);
     const MemberId entities = adder.add(QByteArrayView("[ICP Entities]"), top);
     const DimensionDraft &all = draft.dimension(DimensionKind::Entity);
+    const auto partners = size_t(std::count_if(all.entities.begin(), all.entities.end(),
+                                               [](const EntityRecord &e) { return e.isICP; }));
+    draft.dimension(DimensionKind::ICP).reserveMembers(partners);
+    draft.dimension(DimensionKind::ICP).reserveEdges(partners);
     for (size_t i = 0; i < all.entities.size(); ++i) {
+        constexpr size_t ahead = 16;
+        if (i + ahead < all.entities.size() && all.entities[i + ahead].isICP)
+            adder.fetch(all.labels().at(MemberId(i + ahead)));
         const auto id = MemberId(i);
         if (all.entities[i].isICP)
-            adder.add(all.labels().ref(id), entities, all.member(id).descriptions);
+            adder.add(all.labels().ref(id), entities, all.descriptions(id));
     }
     return {{SystemList::System, {top, none, entities}}};
 }

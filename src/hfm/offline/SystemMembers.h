@@ -31,6 +31,8 @@ public:
     /// it gets a node there only if it has none and `placeThoseOfFiles`.
     MemberId add(QByteArrayView label, MemberId parent, bool placeThoseOfFiles = true);
     MemberId add(TextRef label, MemberId parent, bool placeThoseOfFiles = true);
+    /// Has what add() will look at fetched from memory.
+    void fetch(QByteArrayView label) const { static_cast<void>(mDimension.labels().key(label)); }
     /// The same, with the descriptions of a member that is not the files'.
     MemberId add(TextRef label, MemberId parent, const DescriptionRange &descriptions,
                  bool placeThoseOfFiles = true);

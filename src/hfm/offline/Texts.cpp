@@ -1,52 +1,83 @@
 #include "hfm/offline/Texts.h"
 
+#include "hfm/offline/Prefetch.h"
 #include "runtime/RuntimeError.h"
 
 #include <QHashFunctions>
 
-#include <limits>
+#include <cstdlib>
+#include <cstring>
+#include <new>
 
 namespace hfm::offline {
 
 TextArena::TextArena()
 {
-    mBytes.append('\0');
+    addBlocks(blockSize);
+    mBlocks.front()[0] = '\0';
+    mUsed = 1;
+}
+
+void TextArena::addBlocks(size_t bytes)
+{
+    const size_t blocks = (bytes + blockSize - 1) / blockSize;
+    if (mBlocks.size() + blocks > (size_t(1) << 32U) / blockSize)
+        throw RuntimeError(OutOfMemory);
+    mUsed = quint64(mBlocks.size()) * blockSize;
+    // Of a small application's only block most stays untouched, and is no memory at all.
+    void *const memory = mBlocks.empty() ? std::malloc(bytes) : allocateLarge(blocks * blockSize);
+    if (!memory)
+        throw std::bad_alloc();
+    mMemory.emplace_back(static_cast<char *>(memory), freeLarge);
+    for (size_t i = 0; i < blocks; ++i)
+        mBlocks.push_back(mMemory.back().get() + i * blockSize);
 }
 
 TextRef TextArena::add(QByteArrayView text)
 {
     if (text.isEmpty())
         return 0;
-    if (mBytes.size() + text.size() > qsizetype(std::numeric_limits<TextRef>::max()) - 8)
-        throw RuntimeError(OutOfMemory);
-    const auto ref = TextRef(mBytes.size());
-    auto length = quint64(text.size());
-    for (; length >= 0x80; length >>= 7U)
-        mBytes.append(char(uchar(length) | 0x80U));
-    mBytes.append(char(length));
-    mBytes.append(text);
+    const bool isLong = text.size() >= qsizetype(longText);
+    const size_t bytes = size_t(text.size()) + (isLong ? 5 : 1);
+    if (mUsed + bytes > quint64(mBlocks.size()) * blockSize)
+        addBlocks(bytes);
+    const auto ref = TextRef(mUsed);
+    char *byte = mBlocks[ref / blockSize] + ref % blockSize;
+    *byte++ = char(isLong ? longText : quint32(text.size()));
+    if (isLong) {
+        const auto length = quint32(text.size());
+        std::memcpy(byte, &length, sizeof length);
+        byte += sizeof length;
+    }
+    std::memcpy(byte, text.data(), size_t(text.size()));
+    mUsed += bytes;
     return ref;
 }
 
-QByteArrayView TextArena::at(TextRef ref) const
+QByteArrayView TextArena::longTextAt(const char *byte)
 {
-    const char *byte = mBytes.constData() + ref;
-    auto length = quint64(uchar(*byte) & 0x7FU);
-    for (unsigned shift = 7; uchar(*byte) & 0x80U; shift += 7)
-        length |= quint64(uchar(*++byte) & 0x7FU) << shift;
-    return {byte + 1, qsizetype(length)};
+    quint32 length = 0;
+    std::memcpy(&length, byte + 1, sizeof length);
+    return {byte + 1 + sizeof length, qsizetype(length)};
 }
 
-TextRef TextPool::intern(QByteArrayView text)
+TextPool::Key TextPool::key(QByteArrayView text) const
 {
-    if (text.isEmpty())
-        return 0;
-    if (2 * mUsed >= mSlots.size())
-        grow();
     const auto hash = quint32(qHashBits(text.data(), size_t(text.size())));
-    Slot &slot = slotFor(hash, text);
+    if (!mSlots.empty())
+        prefetch(&mSlots[hash & (mSlots.size() - 1)]);
+    return {text, hash};
+}
+
+TextRef TextPool::intern(const Key &key)
+{
+    if (key.text.isEmpty())
+        return 0;
+    if (3 * mUsed >= 2 * mSlots.size())
+        grow();
+    Slot &slot = slotFor(key.hash, key.text);
     if (!slot.ref) {
-        slot = {hash, mArena.add(text)};
+        slot = {key.hash, mArena.add(key.text)};
         ++mUsed;
     }
     return slot.ref;
@@ -70,7 +101,10 @@ TextPool::Slot &TextPool::slotFor(quint32 hash, QByteArrayView text)
 
 void TextPool::grow()
 {
-    std::vector<Slot> old(std::max<size_t>(64, 2 * mSlots.size()));
+    // Up to some million slots they are made so many at once that few are moved again.
+    constexpr size_t many = size_t(1) << 20;
+    const size_t factor = mSlots.size() <= many ? 4 : 2;
+    LargeVector<Slot> old(std::max<size_t>(64, factor * mSlots.size()));
     old.swap(mSlots);
     const size_t mask = mSlots.size() - 1;
     for (const Slot &slot : old) {

@@ -1,9 +1,11 @@
 #pragma once
 
-#include <QByteArray>
+#include "hfm/offline/LargeMemory.h"
+
 #include <QByteArrayView>
 #include <QString>
 
+#include <memory>
 #include <vector>
 
 namespace hfm::offline {
@@ -11,8 +13,7 @@ namespace hfm::offline {
 /// Stands for a text of an arena; 0 is the empty text.
 using TextRef = quint32;
 
-/// The texts of an application, one behind the other, as UTF-8. A text is a QString only while
-/// somebody asks for it.
+/// The texts of an application, as UTF-8. A text is a QString only while somebody asks for it.
 class TextArena
 {
 public:
@@ -21,15 +22,27 @@ public:
     /// Stores a text and returns what stands for it. Fails with RuntimeError OutOfMemory when the
     /// arena would be larger than 4 GiB.
     TextRef add(QByteArrayView text);
-    /// Valid up to the next call of add().
-    QByteArrayView at(TextRef ref) const;
+    /// Valid for as long as the arena.
+    QByteArrayView at(TextRef ref) const
+    {
+        const char *byte = mBlocks[ref / blockSize] + ref % blockSize;
+        auto length = quint32(uchar(*byte));
+        return length < longText ? QByteArrayView(byte + 1, length) : longTextAt(byte);
+    }
     QString text(TextRef ref) const { return QString::fromUtf8(at(ref)); }
 
-    /// Gives back the memory that was kept ready for more texts.
-    void squeeze() { mBytes.squeeze(); }
-
 private:
-    QByteArray mBytes; ///< each text behind its length; seven bits a byte, the lowest first
+    // A text stands behind its length: one byte, or `longText` and four bytes.
+    static constexpr quint32 longText = 255;
+    static constexpr quint32 blockSize = quint32(2) << 20;
+
+    static QByteArrayView longTextAt(const char *byte);
+    void addBlocks(size_t bytes);
+
+    std::vector<std::unique_ptr<char[], void (*)(void *)>> mMemory;
+    /// Where each block begins. A text that is longer than a block has several, side by side.
+    std::vector<char *> mBlocks;
+    quint64 mUsed = 0; ///< in all blocks, with what was left empty at their ends
 };
 
 /// Sees to it that an arena holds each text once. Needed only while texts are added.
@@ -38,8 +51,18 @@ class TextPool
 public:
     explicit TextPool(TextArena &arena) : mArena(arena) {}
 
+    /// A text that is about to be interned. Between making the key and using it the table's part
+    /// is fetched.
+    struct Key
+    {
+        QByteArrayView text;
+        quint32 hash;
+    };
+    Key key(QByteArrayView text) const;
+
     /// What stands for a text that is the same to the letter; stores it where there is none.
-    TextRef intern(QByteArrayView text);
+    TextRef intern(const Key &key);
+    TextRef intern(QByteArrayView text) { return intern(key(text)); }
     /// Gives back the pool's memory. Texts that are added later may stand in the arena twice.
     void clear();
 
@@ -54,7 +77,7 @@ private:
     void grow();
 
     TextArena &mArena;
-    std::vector<Slot> mSlots;
+    LargeVector<Slot> mSlots;
     size_t mUsed = 0;
 };
 

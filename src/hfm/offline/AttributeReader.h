@@ -1,0 +1,30 @@
+#pragma once
+
+#include "hfm/offline/ApplicationDraft.h"
+#include "hfm/offline/MemberRecord.h"
+
+namespace hfm::offline {
+
+/// Reads the attributes of member records. What cannot be read is a warning.
+class AttributeReader
+{
+public:
+    explicit AttributeReader(ApplicationDraft &draft) : mDraft(draft) {}
+
+    EntityRecord entity(const MemberRecord &record);
+    AccountRecord account(const MemberRecord &record);
+    CustomRecord custom(const MemberRecord &record);
+
+private:
+    UserDefined userDefined(const MemberRecord &record);
+    ClassId securityClass(const MemberRecord &record);
+    bool flag(const MemberRecord &record, Column column);
+    qint8 accountType(const MemberRecord &record);
+    qint8 accountIsICP(const MemberRecord &record);
+    qint16 decimalPlaces(const MemberRecord &record);
+
+    ApplicationDraft &mDraft;
+    UserDefined mLastUserDefined = {}; ///< most often the next record has the same again
+};
+
+} // namespace hfm::offline

@@ -31,6 +31,11 @@ qsizetype incompleteAtEnd(QByteArrayView piece)
     return 0;
 }
 
+bool isAscii(char byte)
+{
+    return byte != '\0' && uchar(byte) < 0x80;
+}
+
 QStringConverter::Encoding decoderOf(Encoding encoding)
 {
     return encoding == Encoding::Utf16BigEndian ? QStringConverter::Utf16BE
@@ -47,6 +52,13 @@ EncodingOfStart encodingOfStart(QByteArrayView start)
         return {Encoding::Utf16LittleEndian, 2, true};
     if (start.startsWith("\xFE\xFF"))
         return {Encoding::Utf16BigEndian, 2, true};
+
+    // Files begin with a section or a comment. Counting zeros alone could fail in scripts that have
+    // characters with a zero for their lower half, such as the ideographic space.
+    if (start.size() >= 2 && isAscii(start[0]) && start[1] == '\0')
+        return {Encoding::Utf16LittleEndian, 0, true};
+    if (start.size() >= 2 && start[0] == '\0' && isAscii(start[1]))
+        return {Encoding::Utf16BigEndian, 0, true};
 
     qsizetype zeros[2] = {0, 0}; // at even and at odd positions
     const qsizetype pairs = start.size() / 2;
@@ -99,7 +111,7 @@ QByteArray Transcoder::toUtf8(QByteArrayView piece)
         return CodePage::decode(piece).toUtf8();
     case Encoding::Utf16LittleEndian:
     case Encoding::Utf16BigEndian:
-        return QString(mDecoder(piece)).toUtf8();
+        return mEncoder(mDecoder(piece));
     }
     return piece.toByteArray();
 }

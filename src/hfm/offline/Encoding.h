@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QStringDecoder>
+#include <QStringEncoder>
 
 namespace hfm::offline {
 
@@ -20,7 +21,7 @@ struct EncodingOfStart
 };
 
 /// A byte-order mark decides. Without one, UTF-16 is recognised by its zero bytes: they are the
-/// upper halves of the Latin characters, labels and section names that every such file has.
+/// upper halves of the Latin characters, first of all the one that every such file begins with.
 /// `start` is the file's beginning, some kilobytes of it.
 EncodingOfStart encodingOfStart(QByteArrayView start);
 
@@ -48,7 +49,9 @@ public:
 
 private:
     Encoding mEncoding;
-    QStringDecoder mDecoder; ///< for UTF-16; keeps what a piece cut in two
+    // For UTF-16. They keep a unit and a pair of units that a piece cut in two.
+    QStringDecoder mDecoder;
+    QStringEncoder mEncoder{QStringConverter::Utf8};
 };
 
 } // namespace hfm::offline

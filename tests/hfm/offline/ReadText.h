@@ -1,5 +1,7 @@
 #pragma once
 
+#include "TreeText.h"
+
 #include "hfm/offline/AppFile.h"
 #include "hfm/offline/Application.h"
 #include "hfm/offline/OfflineSession.h"
@@ -74,20 +76,4 @@ inline QList<QString> warningsOf(const hfm::offline::Application &application)
         lines.append(QStringLiteral("%1:%2: %3")
                          .arg(warning.file, QString::number(warning.line), warning.text));
     return lines;
-}
-
-/// The hierarchy of a dimension as text: a line for each node, indented by two blanks a level.
-inline QString treeOf(hfm::Dimension &dimension)
-{
-    const hfm::Occurrences all = dimension.EnumHierarchy();
-    QString text;
-    QList<hfm::MemberId> above;
-    for (qsizetype i = 0; i < all.members.size(); ++i) {
-        while (!above.isEmpty() && above.last() != all.parents[i])
-            above.removeLast();
-        text += QString(2 * above.size(), QLatin1Char(' ')) +
-                dimension.GetMemberLabel(all.members[i]) + QLatin1Char('\n');
-        above.append(all.members[i]);
-    }
-    return text;
 }

@@ -27,6 +27,21 @@ bool isComparison(QByteArrayView field)
     return field.startsWith('<') || field.startsWith('>') || field.startsWith('=');
 }
 
+/// The last of the first `count` fields that is not empty. The label counts as filled.
+qsizetype lastFilled(const Fields &fields, qsizetype count)
+{
+    qsizetype last = count - 1;
+    while (last > 0 && fields.at(last).isEmpty())
+        --last;
+    return last;
+}
+
+/// What HFM takes for a share besides a number: the one that is calculated for the entity.
+bool isCalculatedShare(QByteArrayView field)
+{
+    return sameWord(field, "POWN") || sameWord(field, "POWNMIN");
+}
+
 void warnOfNumber(ApplicationDraft &draft, QByteArrayView field, Place place)
 {
     if (!isNumber(field))
@@ -49,7 +64,7 @@ void CurrencySection::readRecord(QByteArrayView line, Place place)
     qsizetype first = 1;
     while (first < fields.count() && !fields.at(first).contains('='))
         ++first;
-    if (first > mostFields)
+    if (lastFilled(fields, first) >= mostFields)
         mDraft.warnings.add(place, [&] {
             return QStringLiteral("The record of %1 has %2 fields where %3 are known; the last "
                                   "ones are left out.")
@@ -68,9 +83,15 @@ MethodSection::MethodSection(ApplicationDraft &draft, char delimiter)
 
 void MethodSection::readColumns(const QList<QByteArrayView> &columns)
 {
+    mControl = -1;
+    mShare = -1;
     for (qsizetype i = 1; i < columns.size(); ++i) {
         if (sameWord(columns[i], "Descriptions"))
             mFirstDescription = i;
+        else if (sameWord(columns[i], "ToPercentControl"))
+            mControl = i;
+        else if (sameWord(columns[i], "PercentConsol"))
+            mShare = i;
     }
 }
 
@@ -82,6 +103,10 @@ void MethodSection::readRecord(QByteArrayView line, Place place)
     while (first < std::min(mFirstDescription, fields.count()) &&
            (!fields.at(first).contains('=') || isComparison(fields.at(first))))
         ++first;
+    if (mControl >= 0 && mControl < first)
+        warnOfNumber(mDraft, fields.at(mControl), place);
+    if (mShare >= 0 && mShare < first && !isCalculatedShare(fields.at(mShare)))
+        warnOfNumber(mDraft, fields.at(mShare), place);
     addListed(mDraft.methods, fields.at(0), mDescriptions.read(fields, first, place), mDraft,
               place);
 }

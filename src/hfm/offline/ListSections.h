@@ -31,6 +31,9 @@ private:
     ApplicationDraft &mDraft;
     char mDelimiter;
     DescriptionReader mDescriptions;
+    // Where these fields stand; -1 for one that the comment does not name.
+    qsizetype mControl = 4; ///< up to which percentage of control the method is used
+    qsizetype mShare = 5;   ///< the percentage that is consolidated
     qsizetype mFirstDescription = 7;
 };
 

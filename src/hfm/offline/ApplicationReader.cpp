@@ -15,11 +15,11 @@ void openFile(QFile &file)
 {
     if (file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return;
-    const bool isThere = QFileInfo::exists(file.fileName());
-    const qint32 number = !isThere                                        ? FileNotFound
-                          : file.error() == QFileDevice::PermissionsError ? PermissionDenied
-                                                                          : PathFileAccessError;
-    throw ReadingError(QFileInfo(file).fileName(), 0,
+    const QFileInfo info(file);
+    const qint32 number = !info.exists()       ? FileNotFound
+                          : !info.isReadable() ? PermissionDenied
+                                               : PathFileAccessError;
+    throw ReadingError(info.fileName(), 0,
                        QStringLiteral("The file cannot be opened: %1").arg(file.errorString()),
                        number);
 }

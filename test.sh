@@ -1,6 +1,6 @@
 #!/bin/sh
-# Runs every check of the project: formatting, the tests, the tests under sanitizers, the fuzzers
-# for a bounded time, and the benchmarks as far as that they still build. Installs what it needs.
+# Runs every check of the project: formatting, the tests, the tests under sanitizers, and the
+# fuzzers for a bounded time. Installs what it needs.
 set -eu
 cd "$(dirname "$0")"
 . scripts/packages.sh
@@ -25,9 +25,5 @@ echo "== Fuzzers, $fuzz_seconds seconds each"
 configure fuzz
 cmake --build --preset fuzz --target fuzzers -- --quiet
 tests/fuzz/run.sh build/fuzz "$fuzz_seconds"
-
-echo "== Benchmarks build"
-configure bench
-cmake --build --preset bench -- --quiet
 
 echo "All checks passed."

@@ -38,16 +38,20 @@ public:
     {
         return QObject::connect(
             sender, signal, context, [this, handler](auto &&...arguments) mutable {
-                run([&] {
-                    if constexpr (std::is_invocable_v<Handler &, decltype(arguments)...>)
-                        handler(std::forward<decltype(arguments)>(arguments)...);
-                    else
-                        handler();
-                });
+                run([&] { call(handler, std::forward<decltype(arguments)>(arguments)...); });
             });
     }
 
 private:
+    template <typename Handler, typename... Arguments>
+    static void call(Handler &handler, Arguments &&...arguments)
+    {
+        if constexpr (std::is_invocable_v<Handler &, Arguments...>)
+            handler(std::forward<Arguments>(arguments)...);
+        else
+            handler();
+    }
+
     void endWithCurrentError() noexcept;
 
     Prompts &mPrompts;

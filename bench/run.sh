@@ -1,0 +1,64 @@
+#!/bin/sh
+# Runs every benchmark beside its peers and rewrites docs/benchmarks.md with what they print.
+# Takes some minutes and 4 GB of memory; leave the machine alone meanwhile.
+set -eu
+cd "$(dirname "$0")/.."
+. scripts/packages.sh
+
+# shellcheck disable=SC2086 # lists of words
+need $build_packages $test_packages
+configure bench
+cmake --build --preset bench -- --quiet
+
+work="$(mktemp -d)"
+trap 'rm -rf "$work"' EXIT
+report="$work/benchmarks.md"
+export QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES="default.warning=false"
+
+section() { # TITLE TEXT COMMAND ...
+    title="$1"
+    text="$2"
+    shift 2
+    echo "$title" >&2
+    printf '\n## %s\n\n%s\n\n```\n' "$title" "$text" >>"$report"
+    (cd "$work" && "$@") >>"$report"
+    printf '```\n' >>"$report"
+}
+
+programs="$PWD/build/bench"
+cat >"$report" <<END
+# Benchmarks
+
+What \`bench/run.sh\` printed last. Ratios are within one run on one machine, with both sides doing
+the same work, so they can be compared with those of another machine; single times can not.
+
+- $(sed -n 's/^model name[^:]*: *//p' /proc/cpuinfo | head -n 1), $(nproc) processors, $(sed -n 's/^MemTotal: *\([0-9]*\) kB/\1/p' /proc/meminfo | awk '{ printf "%.0f GB", $1 / 1048576 }') of memory
+- $(. /etc/os-release && echo "$PRETTY_NAME"), $(g++ --version | head -n 1), Qt $(qmake6 -query QT_VERSION 2>/dev/null || dpkg-query -W -f '${Version}' qt6-base-dev), $(python3 --version)
+END
+
+"$programs/tessaly-generate" --dimension Entity --members 1000000 --edges 1200000 --languages 2 \
+    --seed 1 "$work/million.app" >&2
+
+section "Opening an application" \
+    "1,000,000 members in 1,200,000 edges, descriptions in two languages; beside a bare pass that finds line and field ends in the same bytes and converts them to UTF-16, and beside a Python script that reads them into dictionaries. The goals: at most 4 bare passes, at least 10 times faster than the script, at most 2.5 times the file in memory." \
+    "$programs/open_application" million.app
+section "Building and showing an extract" \
+    "Building beside copying the finished text once, piece by piece, from ready strings, and the time from the click on \"Run Extract\" to the text on the screen beside building. The goals: at most 3 and at most 2, linear in the rows." \
+    "$programs/extract_build"
+section "Showing a long text" \
+    "The text of 1,200,000 rows in the program's own text box and in Qt's." \
+    "$programs/show_text"
+section "Saving a long text" \
+    "The same text written with one call and with the program's safe writing, each made to reach the disk. The goal: at most 2." \
+    "$programs/save_text"
+section "The member tree" \
+    "Building and using the metadata viewer's tree, beside a tree of one item object a node whose parents are found by searching backwards." \
+    "$programs/viewer_tree"
+section "The analyses" \
+    "The application information's analyses in linear time, beside the same analyses comparing every pair." \
+    "$programs/appinfo_analyses"
+section "The application information window" \
+    "Opening it, filling its parent lists and opening one of 30,000 entries." \
+    "$programs/appinfo_window"
+
+mv "$report" docs/benchmarks.md

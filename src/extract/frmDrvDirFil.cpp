@@ -67,6 +67,10 @@ void frmDrvDirFil::WriteToFile()
     writeTextFile(name, mGlobal.gPendingText);
     mServices.prompts.ask(SaveRules::fileSaved(name));
     close();
+    // Message box and dialog go almost at once; some window managers then give the keyboard to the
+    // dialog that is gone, and nobody has it.
+    if (QWidget *owner = parentWidget())
+        owner->activateWindow();
 }
 
 void frmDrvDirFil::openFolder(const QString &folder)

@@ -345,6 +345,32 @@ private Q_SLOTS:
         QTRY_VERIFY(!mDialog);
     }
 
+    void theWindowThatSavedIsActiveAfterwards()
+    {
+        QWidget owner;
+        owner.show();
+        QWidget other;
+        other.show();
+        ActingPrompts prompts;
+        prompts.act = [&](const Prompt &) {
+            // Box and dialog go at once, and a window manager may then lose sight of their owner.
+            other.activateWindow();
+            return QTest::qWaitForWindowActive(&other) ? Prompts::Answer::Ok
+                                                       : Prompts::Answer::Cancel;
+        };
+        ErrorTrap trap(prompts, mFake->program);
+        Services services{mFake->hfm,     prompts, mFake->launcher, mFake->clock,
+                          mFake->program, trap,    program()};
+        delete mDialog;
+        mDialog = new frmDrvDirFil(services, *mGlobal, &owner);
+        mDialog->show();
+        typeName(u"new.txt"_s);
+        clickSave();
+        QCOMPARE(prompts.asked.size(), 1);
+        QTRY_VERIFY(!mDialog);
+        QTRY_VERIFY(owner.isActiveWindow());
+    }
+
     void enterInTheNameSaves()
     {
         typeName(u"new.txt"_s);

@@ -19,6 +19,22 @@ private Q_SLOTS:
         QVERIFY(piece.data(QStringLiteral("text/html")).isEmpty());
     }
 
+    void aShortPieceKeepsNothingElseOfTheText()
+    {
+        const QString text = mText.repeated(3);
+        const TextPiece piece(text, {4, 11});
+        QVERIFY(text.isDetached());
+        QCOMPARE(piece.text(), QStringLiteral("cde\r\nfg"));
+    }
+
+    void aLongPieceSharesTheText()
+    {
+        const QString text = mText.repeated(10'000);
+        const TextPiece piece(text, {4, text.size()});
+        QVERIFY(!text.isDetached());
+        QCOMPARE(piece.text(), text.sliced(4));
+    }
+
     void aPieceThatIsTheWholeTextIsTheTextItself()
     {
         const QString text = mText.repeated(3);

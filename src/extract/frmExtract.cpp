@@ -1,6 +1,7 @@
 #include "extract/frmExtract.h"
 
 #include "extract/frmDrvDirFil.h"
+#include "runtime/Required.h"
 #include "shell/frmHourglass.h"
 #include "shell/frmLargeText.h"
 
@@ -66,17 +67,16 @@ frmExtract::frmExtract(Services &services, modGlobal &global, QWidget *parent)
     arrangeControls();
     connectControls();
 
-    if (!mGlobal.gDimension)
-        throw RuntimeError(ObjectVariableNotSet);
     mApplicationPanel->setText(ExtractRules::applicationPanel(mGlobal.gApplicationName));
-    mDimension->setText(ExtractRules::dimensionCaption(mGlobal.gDimension->GetDimensionName()));
+    hfm::Dimension &dimension = required(mGlobal.gDimension);
+    mDimension->setText(ExtractRules::dimensionCaption(dimension.GetDimensionName()));
     mDelimeters->button(0)->setChecked(true);
     mUseIndicators->button(1)->setChecked(true);
 }
 
 void frmExtract::DoExtract()
 {
-    applyDelimiter(mDelimeters->button(0)->property(tagProperty).toString());
+    applyDelimiter(*mDelimeters->button(0));
 }
 
 void frmExtract::closeEvent(QCloseEvent *event)
@@ -189,9 +189,9 @@ void frmExtract::connectControls()
 {
     ErrorTrap &trap = mServices.trap;
     trap.connect(mExtract, &QPushButton::clicked, this, [this] { runExtract(); });
-    for (QAbstractButton *button : mDelimeters->buttons())
-        trap.connect(button, &QAbstractButton::clicked, this,
-                     [this, button] { applyDelimiter(button->property(tagProperty).toString()); });
+    for (QAbstractButton *option : mDelimeters->buttons())
+        trap.connect(option, &QAbstractButton::clicked, this,
+                     [this, option] { delimiterClicked(*option); });
     trap.connect(mShowHeaderRow, &QCheckBox::clicked, this, [this] { headerRowClicked(); });
     trap.connect(mSave, &QPushButton::clicked, this, [this] { saveExtract(); });
 }
@@ -209,8 +209,15 @@ void frmExtract::runExtract()
     DoExtract();
 }
 
-void frmExtract::applyDelimiter(const QString &tag)
+void frmExtract::delimiterClicked(const QAbstractButton &option)
 {
+    const frmHourglass hourglass(this);
+    applyDelimiter(option);
+}
+
+void frmExtract::applyDelimiter(const QAbstractButton &option)
+{
+    const QString tag = option.property(tagProperty).toString();
     const auto indicators = ExtractRules::indicatorsFor(tag, choices());
     if (!indicators) {
         mServices.prompts.ask(ExtractRules::unknownDelimiter());
@@ -247,9 +254,8 @@ void frmExtract::build(const ExtractIndicators &indicators)
 {
     mGlobal.gExtractText.clear();
     mGlobal.gExtractTextWithHeader.clear();
-    if (!mGlobal.gDimension)
-        throw RuntimeError(ObjectVariableNotSet);
-    ExtractTexts texts = buildExtract(*mGlobal.gDimension, mGlobal.gLanguageIndex, indicators);
+    hfm::Dimension &dimension = required(mGlobal.gDimension);
+    ExtractTexts texts = buildExtract(dimension, mGlobal.gLanguageIndex, indicators);
     mGlobal.gExtractText = std::move(texts.rows);
     mGlobal.gExtractTextWithHeader = std::move(texts.rowsWithHeader);
 }

@@ -7,6 +7,7 @@
 #include <QMainWindow>
 
 class LargeTextView;
+class QAbstractButton;
 class QButtonGroup;
 class QCheckBox;
 class QLabel;
@@ -37,7 +38,8 @@ private:
     void connectControls();
 
     void runExtract();
-    void applyDelimiter(const QString &tag);
+    void delimiterClicked(const QAbstractButton &option);
+    void applyDelimiter(const QAbstractButton &option);
     void headerRowClicked();
     void saveExtract();
     void build(const ExtractIndicators &indicators);

@@ -26,6 +26,25 @@ const QString plainRows = u"\"\",\"\",\"A\",\"Alpha\"\r\n\"A\",\"Alpha\",\"B\",\
 const QString markedRows =
     u"\"\",\"\",\"A\",\"Alpha\",\"Dynamic\"\r\n\"A\",\"Alpha\",\"B\",\"Beta\",\"Store\"\r\n"_s;
 
+/// Notes the pointers that a widget is given, each as often as it changes.
+class PointerSpy final : public QObject
+{
+public:
+    explicit PointerSpy(QWidget *widget) : QObject(widget) { widget->installEventFilter(this); }
+
+    QList<Qt::CursorShape> shapes;
+
+    bool eventFilter(QObject *widget, QEvent *event) override
+    {
+        if (event->type() == QEvent::CursorChange) {
+            const Qt::CursorShape shape = static_cast<QWidget *>(widget)->cursor().shape();
+            if (shapes.isEmpty() || shapes.last() != shape)
+                shapes.append(shape);
+        }
+        return false;
+    }
+};
+
 } // namespace
 
 class tst_frmExtract : public QObject
@@ -348,6 +367,23 @@ private Q_SLOTS:
     {
         click("optDelimeter_0");
         QCOMPARE(shown(), plainRows);
+    }
+
+    void anOptionThatBuildsShowsTheHourglassMeanwhile_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::newRow("comma") << QByteArray("optDelimeter_0");
+        QTest::newRow("tab") << QByteArray("optDelimeter_1");
+        QTest::newRow("header row") << QByteArray("chkHeaderRow");
+    }
+
+    void anOptionThatBuildsShowsTheHourglassMeanwhile()
+    {
+        QFETCH(QByteArray, name);
+        const PointerSpy pointers(mWindow);
+        click(name);
+        QVERIFY(!mGlobal->gExtractText.isEmpty());
+        QCOMPARE(pointers.shapes, (QList<Qt::CursorShape>{Qt::WaitCursor, Qt::ArrowCursor}));
     }
 
     void theDelimitersHaveTheirKeys()

@@ -1,5 +1,8 @@
 #include "extract/SaveRules.h"
 
+#include "extract/FileList.h"
+#include "support/FileFaults.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -120,6 +123,24 @@ private Q_SLOTS:
         QVERIFY(QDir(mFolder.path()).mkdir(u"below"_s));
         makeFile(u"below/a.txt"_s);
         QVERIFY(!fileExists(mFolder.path(), u"below/a.txt"_s));
+    }
+
+    void aFileExistsInAFolderThatMayBeWrittenButNotRead()
+    {
+        const QString closed = mFolder.filePath(u"closed"_s);
+        QVERIFY(QDir(mFolder.path()).mkdir(u"closed"_s));
+        makeFile(u"closed/Entity.txt"_s);
+        OrdinaryUser::own(mFolder.path());
+        OrdinaryUser::own(closed);
+        QVERIFY(QFile::setPermissions(closed, QFile::WriteOwner | QFile::ExeOwner));
+        {
+            const OrdinaryUser user;
+            QVERIFY_THROWS_EXCEPTION(RuntimeError, FileList::hasFile(closed, u"Entity.txt"_s));
+            QVERIFY(fileExists(closed, u"Entity.txt"_s));
+            QVERIFY(!fileExists(closed, u"ENTITY.TXT"_s));
+        }
+        QVERIFY(
+            QFile::setPermissions(closed, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     }
 
     void nothingExistsInAFolderThatIsGone()

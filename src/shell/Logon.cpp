@@ -1,5 +1,7 @@
 #include "shell/Logon.h"
 
+#include "runtime/Required.h"
+
 #include <QRegularExpression>
 
 namespace {
@@ -9,14 +11,6 @@ bool wantsToTryAgain(Prompts &prompts)
     return prompts.ask({QStringLiteral("Error Opening HFM"),
                         QStringLiteral("Error Opening HFM.  Would you like to try again?"),
                         Prompt::Icon::Critical, Prompt::Buttons::YesNo}) == Prompts::Answer::Yes;
-}
-
-template <typename Object>
-Object &required(const std::shared_ptr<Object> &object)
-{
-    if (!object)
-        throw RuntimeError(ObjectVariableNotSet);
-    return *object;
 }
 
 bool logOnUser(const modGlobal &state, Prompts &prompts)

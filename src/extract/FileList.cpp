@@ -20,8 +20,7 @@ RuntimeError unreadable(const QString &folder, std::error_code code)
         number = PathNotFound;
     else if (code == std::errc::permission_denied || code == std::errc::operation_not_permitted)
         number = PermissionDenied;
-    return RuntimeError(number, u"Tessaly"_s,
-                        RuntimeError::usualDescription(number) + u": "_s + folder);
+    return RuntimeError::naming(number, folder);
 }
 
 std::filesystem::path nativePath(const QString &path)

@@ -24,12 +24,6 @@ Command parsed(const QString &commandLine)
     return {commandLine.first(blank), path};
 }
 
-RuntimeError notFound(const QString &what)
-{
-    return RuntimeError(FileNotFound, QStringLiteral("Tessaly"),
-                        RuntimeError::usualDescription(FileNotFound) + QStringLiteral(": ") + what);
-}
-
 /// False when there is no such program on the PATH or it does not start.
 bool start(const QString &program, const QString &path)
 {
@@ -47,9 +41,9 @@ void DesktopLauncher::run(const QString &commandLine)
     if (start(program, path))
         return;
     if (path.isEmpty())
-        throw notFound(program);
+        throw RuntimeError::naming(FileNotFound, program);
     if (!QFileInfo(path).isFile())
-        throw notFound(path);
+        throw RuntimeError::naming(FileNotFound, path);
     if (!start(desktopViewer, path))
-        throw notFound(program + QStringLiteral(", ") + desktopViewer);
+        throw RuntimeError::naming(FileNotFound, program + QStringLiteral(", ") + desktopViewer);
 }

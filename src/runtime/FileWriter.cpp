@@ -17,28 +17,22 @@ namespace {
 /// and what was encoded is still near the processor when it is written.
 constexpr qsizetype blockLength = 1 << 17;
 
-RuntimeError errorFor(qint32 number, const QString &path)
-{
-    return RuntimeError(number, QStringLiteral("Tessaly"),
-                        RuntimeError::usualDescription(number) + QStringLiteral(": ") + path);
-}
-
 RuntimeError errorFromSystem(int systemError, const QString &path)
 {
     switch (systemError) {
     case ENOENT:
     case ENOTDIR:
-        return errorFor(PathNotFound, path);
+        return RuntimeError::naming(PathNotFound, path);
     case EACCES:
     case EPERM:
     case EROFS:
-        return errorFor(PermissionDenied, path);
+        return RuntimeError::naming(PermissionDenied, path);
     case ENOSPC:
     case EDQUOT:
     case EFBIG:
-        return errorFor(DiskFull, path);
+        return RuntimeError::naming(DiskFull, path);
     default:
-        return errorFor(PathFileAccessError, path);
+        return RuntimeError::naming(PathFileAccessError, path);
     }
 }
 
@@ -53,9 +47,9 @@ bool isNameOfAFile(const QString &path)
 void refuseWhatIsNoFile(const QString &path)
 {
     if (!isNameOfAFile(path) || QFileInfo(path).isDir())
-        throw errorFor(PathFileAccessError, path);
+        throw RuntimeError::naming(PathFileAccessError, path);
     if (path.endsWith(QLatin1Char('/')))
-        throw errorFor(PathNotFound, path);
+        throw RuntimeError::naming(PathNotFound, path);
 }
 
 /// The functions that write return the system's error number, 0 when all is well.

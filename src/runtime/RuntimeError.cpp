@@ -11,6 +11,12 @@ RuntimeError::RuntimeError(qint32 number, QString source, QString description)
 {
 }
 
+RuntimeError RuntimeError::naming(qint32 number, const QString &name)
+{
+    return RuntimeError(number, QStringLiteral("Tessaly"),
+                        usualDescription(number) + QStringLiteral(": ") + name);
+}
+
 QString RuntimeError::usualDescription(qint32 number)
 {
     switch (number) {

@@ -30,6 +30,9 @@ public:
     explicit RuntimeError(qint32 number);
     /// `description` may name a file or a label; an empty one means the number's usual description.
     RuntimeError(qint32 number, QString source, QString description);
+    /// An error of the run time itself over something that has a name, such as a file: "Path not
+    /// found: /home/jane".
+    static RuntimeError naming(qint32 number, const QString &name);
 
     qint32 number() const { return mNumber; }
     const QString &source() const { return mSource; }

@@ -86,6 +86,14 @@ private Q_SLOTS:
             QCOMPARE(error.what(), "caf\xC3\xA9");
         }
     }
+
+    void anErrorOverSomethingNamesIt()
+    {
+        const RuntimeError error = RuntimeError::naming(PathNotFound, QStringLiteral("/home/%1"));
+        QCOMPARE(error.number(), 76);
+        QCOMPARE(error.source(), QStringLiteral("Tessaly"));
+        QCOMPARE(error.description(), QStringLiteral("Path not found: /home/%1"));
+    }
 };
 
 QTEST_APPLESS_MAIN(tst_RuntimeError)

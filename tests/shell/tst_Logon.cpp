@@ -73,6 +73,7 @@ private Q_SLOTS:
         QVERIFY(mState.gClient);
         QVERIFY(mState.gClientUI);
         QVERIFY(mState.gSession);
+        QVERIFY(mState.gSessionAux);
         QVERIFY(mState.gMetadata);
         QCOMPARE(mState.gApplicationName, QStringLiteral("Comma"));
         QCOMPARE(mState.gSysApplicationName, QStringLiteral("COMMA"));
@@ -121,6 +122,7 @@ private Q_SLOTS:
         QCOMPARE(mFakes->hfm.calls().count(QLatin1StringView("Logon")), 3);
         QCOMPARE(mFakes->hfm.calls().count(QLatin1StringView("createClient")), 1);
         QCOMPARE(mFakes->hfm.calls().count(QLatin1StringView("Initialize")), 1);
+        QCOMPARE(mFakes->hfm.silentLogons(), (QList<bool>{false, false, false}));
     }
 
     void aFailedOpeningIsRepeatedWithoutAnotherLogon()
@@ -130,7 +132,7 @@ private Q_SLOTS:
         QVERIFY(logOnNow());
         QCOMPARE(mFakes->prompts.asked, QList<Prompt>{retryQuestion()});
         QCOMPARE(mFakes->hfm.calls().count(QLatin1StringView("Logon")), 1);
-        QCOMPARE(mFakes->hfm.calls().count(QLatin1StringView("OpenApplication")), 2);
+        QCOMPARE(mFakes->hfm.openedWith(), (QList<QStringList>{{{}, {}}, {{}, {}}}));
         QCOMPARE(mState.gApplicationName, QStringLiteral("Comma"));
     }
 
@@ -176,6 +178,7 @@ private Q_SLOTS:
         QVERIFY(mState.gClient != before.gClient);
         QVERIFY(mState.gClientUI != before.gClientUI);
         QVERIFY(mState.gSession != before.gSession);
+        QVERIFY(mState.gSessionAux != before.gSessionAux);
         QVERIFY(mState.gMetadata != before.gMetadata);
         QCOMPARE(mState.gApplicationName, QStringLiteral("Meridian"));
     }
@@ -197,6 +200,47 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(RuntimeError, logOnNow());
         QVERIFY(mFakes->prompts.asked.isEmpty());
         QCOMPARE(mFakes->hfm.calls().made().last(), operation);
+    }
+
+    void whatAFailingLogonReachedStays_data()
+    {
+        QTest::addColumn<QString>("operation");
+        QTest::addColumn<QStringList>("reached");
+        const QStringList steps = {
+            QStringLiteral("client UI"), QStringLiteral("client"),   QStringLiteral("session"),
+            QStringLiteral("user"),      QStringLiteral("cluster"),  QStringLiteral("application"),
+            QStringLiteral("status"),    QStringLiteral("metadata"), QStringLiteral("enabled")};
+        const auto row = [&](const char *operation, qsizetype count) {
+            QTest::newRow(operation) << QString::fromLatin1(operation) << steps.first(count);
+        };
+        row("createLogonUserInterface", 0);
+        row("createClient", 1);
+        row("Initialize", 2);
+        row("Logon", 2);
+        row("OpenApplication", 2);
+        row("GetLogonInfo", 3);
+        row("GetSystemInfo", 4);
+        row("GetClusterName", 4);
+        row("GetApplicationName", 5);
+        row("GetMetadata", 7);
+        row("GetLanguages", 9);
+    }
+    void whatAFailingLogonReachedStays()
+    {
+        QFETCH(QString, operation);
+        QVERIFY(logOnNow());
+        const modGlobal before = mState;
+        mDisplay->shown.clear();
+        FakeApplication &next = mFakes->hfm.newApplication();
+        next.openedName = QStringLiteral("Meridian");
+        next.clusterName = QStringLiteral("Other");
+        next.applicationName = QStringLiteral("MERIDIAN");
+        mFakes->hfm.setLogonInfo({QStringLiteral("other"), QStringLiteral("more"), false});
+        const QByteArray name = operation.toLatin1();
+        mFakes->hfm.calls().fail(QLatin1StringView(name), RuntimeError(CannotCreateObject));
+
+        QVERIFY_THROWS_EXCEPTION(RuntimeError, logOnNow());
+        QTEST(reachedSince(before), "reached");
     }
 
     void theTimeOfDayIsTheLocalesWithoutAZone_data()
@@ -225,6 +269,29 @@ private Q_SLOTS:
 
 private:
     bool logOnNow() { return logOn(mState, mFakes->services, *mDisplay); }
+
+    /// What a second logon has changed; values that belong together count only when all have.
+    QStringList reachedSince(const modGlobal &before) const
+    {
+        QStringList reached;
+        const auto note = [&](const char *what, bool changed) {
+            if (changed)
+                reached.append(QString::fromLatin1(what));
+        };
+        note("client UI", mState.gClientUI != before.gClientUI);
+        note("client", mState.gClient != before.gClient);
+        note("session", mState.gSession != before.gSession &&
+                            mState.gSessionAux != before.gSessionAux &&
+                            mState.gApplicationName == QLatin1StringView("Meridian"));
+        note("user", mState.gUserName == QLatin1StringView("other") &&
+                         mState.gLogonDetail == QLatin1StringView("more"));
+        note("cluster", mState.gClusterName == QLatin1StringView("Other"));
+        note("application", mState.gSysApplicationName == QLatin1StringView("MERIDIAN"));
+        note("status", mDisplay->shown.size() > 0);
+        note("metadata", mState.gMetadata != before.gMetadata);
+        note("enabled", mDisplay->shown.size() > 1);
+        return reached;
+    }
 
     std::unique_ptr<FakeServices> mFakes;
     modGlobal mState;

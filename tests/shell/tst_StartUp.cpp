@@ -152,7 +152,14 @@ private Q_SLOTS:
     {
         ErrorLog errorLog(mFolder->filePath(QStringLiteral("log")));
         mFakes->hfm.setVersion(QStringLiteral("9.3.1"));
-        QCOMPARE(GetHFMVersion(0, mFakes->services, errorLog), QStringLiteral("9.3.1"));
+        QCOMPARE(GetHFMVersion(3, mFakes->services, errorLog), QStringLiteral("9.3.1"));
+        QCOMPARE(mFakes->hfm.selectors(), QList<qint16>{3});
+    }
+
+    void startUpSelects0()
+    {
+        start(QStringLiteral("11.1.2"));
+        QCOMPARE(mFakes->hfm.selectors(), QList<qint16>{0});
     }
 
     void aSecondRunLeavesOnlyItsOwnEntries()

@@ -105,20 +105,25 @@ private Q_SLOTS:
         QCOMPARE(mMain->state.gLanguageIndex, qint16(0));
     }
 
+    void aLogonThatFailsOnLoadingFailsTheWindow_data() { addOperations(); }
     void aLogonThatFailsOnLoadingFailsTheWindow()
     {
-        mMain->fakes.hfm.calls().fail(QLatin1StringView("createClient"),
-                                      RuntimeError(CannotCreateObject));
+        QFETCH(QString, operation);
+        const QByteArray name = operation.toLatin1();
+        mMain->fakes.hfm.calls().fail(QLatin1StringView(name), RuntimeError(CannotCreateObject));
         QVERIFY_THROWS_EXCEPTION(RuntimeError, mMain->load());
         QVERIFY(mMain->fakes.prompts.asked.isEmpty());
     }
 
+    void aLogonThatFailsLaterEndsTheProgram_data() { addOperations(); }
     void aLogonThatFailsLaterEndsTheProgram()
     {
+        QFETCH(QString, operation);
+        const QByteArray name = operation.toLatin1();
         QVERIFY(mMain->show());
-        mMain->fakes.hfm.calls().fail(QLatin1StringView("GetMetadata"),
-                                      RuntimeError(PermissionDenied));
+        mMain->fakes.hfm.calls().fail(QLatin1StringView(name), RuntimeError(PermissionDenied));
         mMain->click("cmdLogon");
+        QCOMPARE(mMain->languages(), (QStringList{latin1("English"), latin1("German")}));
         QCOMPARE(mMain->fakes.prompts.asked.size(), 1);
         QCOMPARE(mMain->fakes.prompts.asked[0].text,
                  latin1("Run-time error '70':\r\n\r\nPermission denied"));
@@ -126,6 +131,16 @@ private Q_SLOTS:
     }
 
 private:
+    static void addOperations()
+    {
+        QTest::addColumn<QString>("operation");
+        for (const char *operation :
+             {"createLogonUserInterface", "createClient", "Initialize", "Logon", "OpenApplication",
+              "GetLogonInfo", "GetSystemInfo", "GetClusterName", "GetApplicationName",
+              "GetMetadata", "GetLanguages"})
+            QTest::newRow(operation) << latin1(operation);
+    }
+
     std::unique_ptr<MainWindow> mMain;
 };
 

@@ -13,7 +13,11 @@ class FakeVersionInformation final : public hfm::VersionInformation
 public:
     explicit FakeVersionInformation(State state) : mState(std::move(state)) {}
 
-    void SetVersionSelector(qint16) override { mState->calls->enter("SetVersionSelector"_L1); }
+    void SetVersionSelector(qint16 selector) override
+    {
+        mState->calls->enter("SetVersionSelector"_L1);
+        mState->selectors.append(selector);
+    }
     QString GetVersion() override
     {
         mState->calls->enter("GetVersion"_L1);
@@ -56,9 +60,10 @@ public:
         mState->calls->enter("Initialize"_L1);
         mUserInterface = std::dynamic_pointer_cast<FakeLogonUserInterface>(userInterface);
     }
-    bool Logon(bool) override
+    bool Logon(bool silent) override
     {
         mState->calls->enter("Logon"_L1);
+        mState->silentLogons.append(silent);
         if (!mUserInterface)
             throw RuntimeError(ObjectVariableNotSet);
         if (!nextAnswer(mState->logonAnswers))
@@ -66,9 +71,13 @@ public:
         mUserInterface->setInfo(mState->logonInfo);
         return true;
     }
-    bool OpenApplication(hfm::OpenedApplication &opened, QString &, QString &) override
+    bool OpenApplication(hfm::OpenedApplication &opened, QString &cluster,
+                         QString &application) override
     {
         mState->calls->enter("OpenApplication"_L1);
+        mState->openedWith.append({cluster, application});
+        cluster = mState->application->clusterName;
+        application = mState->application->applicationName;
         if (!nextAnswer(mState->openAnswers))
             return false;
         opened = {mState->application->openedName, makeFakeSession(mState->application),

@@ -47,6 +47,11 @@ public:
     /// The answers of the next calls of Logon and of OpenApplication; True where none is left.
     QList<bool> &logonAnswers() { return mState->logonAnswers; }
     QList<bool> &openAnswers() { return mState->openAnswers; }
+    /// What was passed to SetVersionSelector and to Logon, in order.
+    const QList<qint16> &selectors() const { return mState->selectors; }
+    const QList<bool> &silentLogons() const { return mState->silentLogons; }
+    /// The two strings of each OpenApplication, as they were passed. The fake fills both in.
+    const QList<QStringList> &openedWith() const { return mState->openedWith; }
 
     /// A session on application(), without a logon.
     std::shared_ptr<hfm::Session> openSession();
@@ -64,6 +69,9 @@ public:
         hfm::LogonInfo logonInfo = {QStringLiteral("admin"), QStringLiteral("detail"), false};
         QList<bool> logonAnswers;
         QList<bool> openAnswers;
+        QList<qint16> selectors;
+        QList<bool> silentLogons;
+        QList<QStringList> openedWith;
     };
 
 private:

@@ -37,6 +37,8 @@ void dlgOfflineLogon::makeControls(const QStringList &clusters, const QString &u
     mCluster->setAccessibleName(tr("Cluster folder"));
     mCluster->setEditable(true);
     mCluster->setInsertPolicy(QComboBox::NoInsert);
+    // Completed, the folder above one that was used before could not be typed.
+    mCluster->setCompleter(nullptr);
     mCluster->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     mCluster->setMinimumContentsLength(50);
     for (const QString &folder : clusters)

@@ -57,6 +57,13 @@ private Q_SLOTS:
         QCOMPARE(mDialog->logon().userName, QStringLiteral("controller"));
     }
 
+    void whatIsTypedIsNotCompletedToAFolderUsedBefore()
+    {
+        QTest::keyClick(mCombo->lineEdit(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(mCombo->lineEdit(), QStringLiteral("/data"));
+        QCOMPARE(mDialog->logon().clusterFolder, QStringLiteral("/data"));
+    }
+
     void aFolderThatIsNoneKeepsTheDialogOpenAndIsSaid()
     {
         mCombo->setCurrentIndex(1);

@@ -11,6 +11,7 @@
 
 #include <QCloseEvent>
 #include <QLineEdit>
+#include <QTextDocument>
 
 frmMain::frmMain(modGlobal &state, Services &services, Tools tools)
     : mState(state), mServices(services), mTools(std::move(tools)), mControls(this)
@@ -77,7 +78,8 @@ void frmMain::logOnNow()
 void frmMain::showStatus(const QString &text)
 {
     mControls.statusPanel->setText(text);
-    mControls.statusPanel->setToolTip(text);
+    // A tool tip would take a cluster's name for markup where it looks like it.
+    mControls.statusPanel->setToolTip(Qt::convertFromPlainText(text));
 }
 
 void frmMain::enableApplication()

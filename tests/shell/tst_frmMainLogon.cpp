@@ -1,5 +1,7 @@
 #include "MainWindow.h"
 
+#include <QTextDocumentFragment>
+
 /// The logon, as the main window shows it.
 class tst_frmMainLogon : public QObject
 {
@@ -95,6 +97,18 @@ private Q_SLOTS:
         QCOMPARE(mMain->status(), before);
         mMain->click("cmdLogon");
         QVERIFY(mMain->status().endsWith(latin1("Logged On: 16:09:26")));
+    }
+
+    void theStatusIsPlainTextAndSoIsItsToolTip()
+    {
+        mMain->fakes.hfm.application().clusterName = latin1("<b>North</b> & Co");
+        mMain->load();
+        const auto *panel = mMain->control<QLabel>("sbStatusBar_1");
+        QVERIFY(panel->text().startsWith(latin1("Cluster: <b>North</b> & Co * ")));
+        QCOMPARE(panel->textFormat(), Qt::PlainText);
+        QTextDocumentFragment shown = QTextDocumentFragment::fromHtml(panel->toolTip());
+        QVERIFY(Qt::mightBeRichText(panel->toolTip()));
+        QCOMPARE(shown.toPlainText(), panel->text());
     }
 
     void withoutAnyLanguageNoneIsSelected()

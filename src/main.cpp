@@ -28,10 +28,7 @@ void introduce(QApplication &application)
 {
     application.setApplicationName(Identity::title());
     application.setOrganizationName(Identity::title()); // names the folder of the user's settings
-    application.setApplicationVersion(QStringLiteral("%1.%2.%3")
-                                          .arg(Identity::majorVersion)
-                                          .arg(Identity::minorVersion)
-                                          .arg(Identity::revision));
+    application.setApplicationVersion(Identity::version());
     application.setDesktopFileName(QStringLiteral("tessaly"));
     application.setWindowIcon(frmIdentity::icon());
     // The splash closes before there is a main window; the program goes on all the same.

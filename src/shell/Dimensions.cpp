@@ -1,6 +1,6 @@
 #include "shell/Dimensions.h"
 
-#include "runtime/RuntimeError.h"
+#include "runtime/Required.h"
 
 namespace Dimensions {
 
@@ -45,9 +45,7 @@ Choice choose(modGlobal &state, const QString &text)
     for (const Accessor &accessor : accessors) {
         if (name != accessor.name)
             continue;
-        if (!state.gMetadata)
-            throw RuntimeError(ObjectVariableNotSet);
-        state.gDimension = ((*state.gMetadata).*accessor.get)();
+        state.gDimension = (required(state.gMetadata).*accessor.get)();
         state.gDimensionName = name;
         return Choice::Set;
     }

@@ -23,10 +23,16 @@ inline QString description()
         "directly by the utility.");
 }
 
+/// "11.1.2"
+inline QString version()
+{
+    return QStringLiteral("%1.%2.%3").arg(majorVersion).arg(minorVersion).arg(revision);
+}
+
 /// "Version 11.1.2"
 inline QString versionText()
 {
-    return QStringLiteral("Version %1.%2.%3").arg(majorVersion).arg(minorVersion).arg(revision);
+    return QStringLiteral("Version ") + version();
 }
 
 /// Line by line, as both windows that name the program show it.

@@ -55,12 +55,8 @@ void report(const QString &routine, const RuntimeError &error, Prompts &prompts,
 Prompt incompatibleVersion(const QString &version)
 {
     const QString lineBreaks = QStringLiteral("\r\n\r\n");
-    const QString own = QStringLiteral("%1.%2.%3")
-                            .arg(Identity::majorVersion)
-                            .arg(Identity::minorVersion)
-                            .arg(Identity::revision);
     const QString text =
-        QStringLiteral("This version of Tessaly (v") + own + QStringLiteral(")") +
+        QStringLiteral("This version of Tessaly (v") + Identity::version() + QStringLiteral(")") +
         QStringLiteral(
             " only supports System 9 FM release 4.1 and above and HFM release 4.0.5 and above") +
         lineBreaks + QStringLiteral("Tessaly detected your HFM client version as: ") + version +

@@ -3,6 +3,7 @@
 #include "appinfo/ArrayCounts.h"
 
 #include <QSet>
+#include <QStringBuilder>
 
 using namespace Qt::StringLiterals;
 
@@ -45,5 +46,5 @@ void BaseMemberCompare::append(hfm::Dimension &dimension, const QString &from, c
     const QSet<hfm::MemberId> found(toMembers.begin(), toMembers.end());
     for (const hfm::MemberId member : fromMembers)
         if (!found.contains(member))
-            text += dimension.GetMemberLabel(member) + u"\r\n"_s;
+            text += dimension.GetMemberLabel(member) % u"\r\n";
 }

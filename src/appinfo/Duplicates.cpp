@@ -3,6 +3,7 @@
 #include "appinfo/ArrayCounts.h"
 
 #include <QHash>
+#include <QStringBuilder>
 
 using namespace Qt::StringLiterals;
 
@@ -24,5 +25,5 @@ void Duplicates::append(hfm::Dimension &dimension, const QString &parent, QStrin
         ++occurrences[member];
     for (const hfm::MemberId member : below)
         if (occurrences[member].value() > 1)
-            text += dimension.GetMemberLabel(member) + u"\r\n"_s;
+            text += dimension.GetMemberLabel(member) % u"\r\n";
 }

@@ -3,6 +3,7 @@
 #include "appinfo/ArrayCounts.h"
 
 #include <QHash>
+#include <QStringBuilder>
 
 #include <algorithm>
 #include <vector>
@@ -24,13 +25,14 @@ bool isBlank(const QString &text)
     return std::all_of(text.begin(), text.end(), [](QChar c) { return c == u' '; });
 }
 
-QString line(hfm::Dimension &dimension, hfm::MemberId member, hfm::MemberId parent)
+void appendLine(hfm::Dimension &dimension, hfm::MemberId member, hfm::MemberId parent,
+                QString &text)
 {
     const QString label = dimension.GetMemberLabel(member);
     const QString parentLabel = dimension.GetMemberLabel(parent);
-    const bool hasChildren = dimension.GetHasChildren(member);
-    return label + u" ("_s + (isBlank(parentLabel) ? u"<DimRoot>"_s : parentLabel) + u')' +
-           (hasChildren ? u" **"_s : QString()) + u"\r\n"_s;
+    const QStringView shownParent = isBlank(parentLabel) ? QStringView(u"<DimRoot>") : parentLabel;
+    const QStringView mark = dimension.GetHasChildren(member) ? u" **" : u"";
+    text += label % u" (" % shownParent % u')' % mark % u"\r\n";
 }
 
 } // namespace
@@ -71,6 +73,6 @@ QString SharedMembers::report(hfm::Dimension &dimension, const hfm::Occurrences 
     QString text;
     for (qsizetype i = 0; i < occurrences.members.size(); ++i)
         if (--toCome[occurrences.members[i]] > 0)
-            text += line(dimension, occurrences.members[i], occurrences.parents[i]);
+            appendLine(dimension, occurrences.members[i], occurrences.parents[i], text);
     return text.isEmpty() ? u"No Shared Members Detected"_s : text;
 }

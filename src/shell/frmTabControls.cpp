@@ -2,14 +2,43 @@
 
 #include "shell/frmLargeText.h"
 
+#include <QApplication>
 #include <QLineEdit>
+#include <QPointer>
+#include <QProxyStyle>
 #include <QStringListModel>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int mostShownEntries = 16; ///< of a combo box's list without scrolling
 constexpr int shortestListText = 16; ///< characters that a combo box is at least wide enough for
+
+/// The application's style, but that the lists of all combo boxes are short ones with a scroll bar.
+/// Some styles open a list that is not typed into over the whole height of the screen, and look at
+/// every entry for it.
+class ShortListStyle final : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *returned) const override
+    {
+        if (hint == SH_ComboBox_Popup)
+            return 0;
+        return QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+
+    static QStyle *shared()
+    {
+        static QPointer<ShortListStyle> style;
+        if (!style) {
+            style = new ShortListStyle;
+            style->setParent(qApp);
+        }
+        return style;
+    }
+};
 
 /// A caption as it is spoken.
 QString spoken(QString caption)
@@ -33,6 +62,8 @@ QComboBox *TabControls::makeList(QLabel *label, const char *name)
     list->setObjectName(QLatin1StringView(name));
     list->setAccessibleName(spoken(label->text()));
     label->setBuddy(list);
+    list->setStyle(ShortListStyle::shared());
+    list->setMaxVisibleItems(mostShownEntries);
     // Neither the box nor its list is sized by a look at every entry.
     list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     list->setMinimumContentsLength(shortestListText);

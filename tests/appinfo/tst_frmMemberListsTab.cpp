@@ -1,5 +1,7 @@
 #include "OpenWindow.h"
 
+#include <QScrollBar>
+
 using namespace Qt::StringLiterals;
 
 class tst_frmMemberListsTab : public QObject
@@ -171,6 +173,26 @@ private Q_SLOTS:
         QCOMPARE(heading(), u"Year list  A & <B>  -  1 members"_s);
         QCOMPARE(mOpen->control<QLabel>("lblMembersInList")->textFormat(), Qt::PlainText);
         QVERIFY(!mOpen->control<QLabel>("lblMembersInList")->buddy());
+    }
+
+    void aLongListOfTopMembersOpensShortWithAScrollBar()
+    {
+        QString outline;
+        for (int i = 0; i < 200; ++i)
+            outline += u"P%1\n  B%1\n"_s.arg(i);
+        dimension(FakeKind::Entity).setMembers(outline);
+        mOpen->choose("cboEntityLists", u"[Base]"_s);
+        QComboBox *const box = mOpen->box("cboParentMembers");
+        QCOMPARE(box->count(), 201);
+        box->showPopup();
+        const QListView *const list = qobject_cast<QListView *>(box->view());
+        QVERIFY(list);
+        QTRY_VERIFY(list->verticalScrollBar()->isVisible());
+        const int rows =
+            list->viewport()->height() / list->visualRect(list->currentIndex()).height();
+        QCOMPARE(rows, box->maxVisibleItems());
+        QVERIFY(list->uniformItemSizes());
+        box->hidePopup();
     }
 
     void membersCannotBeEdited()

@@ -1,0 +1,159 @@
+// How long the application information window takes to open on an application of any size, to fill
+// its parent lists with 30,000 entries, and to open such a list, with its first and with its last
+// entry chosen. From the user's act to everything painted; times are the processor's.
+
+#include "appinfo/frmApplicationInfo.h"
+#include "CpuTime.h"
+#include "GeneratedApplication.h"
+
+#include <QApplication>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int rounds = 9;
+
+class NoClients final : public hfm::ClientFactory
+{
+public:
+    std::unique_ptr<hfm::VersionInformation> createVersionInformation() override { return {}; }
+    std::shared_ptr<hfm::LogonUserInterface> createLogonUserInterface() override { return {}; }
+    std::shared_ptr<hfm::Client> createClient() override { return {}; }
+};
+
+class NoPrompts final : public Prompts
+{
+public:
+    Answer ask(const Prompt &prompt) override { qFatal("%s", qPrintable(prompt.text)); }
+};
+
+class NoLauncher final : public Launcher
+{
+public:
+    void run(const QString &) override {}
+};
+
+class NoProgram final : public Program
+{
+public:
+    void end(int exitCode) override { std::exit(exitCode); }
+    bool isEnding() const override { return false; }
+};
+
+/// The window on an application, and everything that it needs.
+class Opened
+{
+public:
+    explicit Opened(const generator::Request &request)
+    {
+        mState.gSession = sessionOn(request);
+        mState.gMetadata = mState.gSession->GetMetadata();
+    }
+
+    void open()
+    {
+        mWindow = std::make_unique<frmApplicationInfo>(mServices, mState);
+        mWindow->show();
+        settle();
+    }
+    void showTab(int tab)
+    {
+        mWindow->findChild<QTabWidget *>(QStringLiteral("sstabApplicationInfo"))
+            ->setCurrentIndex(tab);
+        settle();
+    }
+    void click(const char *option)
+    {
+        mWindow->findChild<QAbstractButton *>(QLatin1StringView(option))->click();
+        settle();
+    }
+    QComboBox *box(const char *name)
+    {
+        return mWindow->findChild<QComboBox *>(QLatin1StringView(name));
+    }
+    void openList(const char *name)
+    {
+        box(name)->showPopup();
+        settle();
+        box(name)->view()->window()->grab();
+        box(name)->hidePopup();
+        settle();
+    }
+
+private:
+    void settle()
+    {
+        QCoreApplication::processEvents();
+        mWindow->grab();
+    }
+
+    NoClients mClients;
+    NoPrompts mPrompts;
+    NoLauncher mLauncher;
+    SystemClock mClock;
+    NoProgram mProgram;
+    ErrorTrap mTrap{mPrompts, mProgram};
+    Services mServices{mClients, mPrompts, mLauncher, mClock, mProgram, mTrap, {}};
+    modGlobal mState;
+    std::unique_ptr<frmApplicationInfo> mWindow;
+};
+
+template <typename Action>
+void measure(const QString &what, Action action)
+{
+    std::printf("%-58s %8.1f ms\n", qPrintable(what), cpuMilliseconds(rounds, action));
+}
+
+void measureOpening(qint32 members)
+{
+    generator::Request request;
+    request.members = members;
+    Opened opened(request);
+    measure(QStringLiteral("open the window, %1 members").arg(members), [&] { opened.open(); });
+}
+
+void measureList(Opened &opened, const char *name, const QString &what)
+{
+    QComboBox *const list = opened.box(name);
+    for (const int entry : {0, list->count() - 1}) {
+        list->setCurrentIndex(entry);
+        measure(QStringLiteral("open %1 of %2 entries at entry %3")
+                    .arg(what)
+                    .arg(list->count())
+                    .arg(entry + 1),
+                [&] { opened.openList(name); });
+    }
+}
+
+void measureParents(qint32 parents)
+{
+    generator::Request request;
+    request.shape = generator::Shape::Chain;
+    request.members = parents + 1;
+    Opened opened(request);
+    opened.open();
+    opened.showTab(4);
+    measure(QStringLiteral("fill the three parent lists with %1 entries").arg(parents),
+            [&] { opened.click("optDimensionCompare_1"); });
+    measureList(opened, "cboParents", QStringLiteral("a typed list"));
+
+    opened.showTab(2);
+    QComboBox *const lists = opened.box("cboEntityLists");
+    lists->setCurrentIndex(lists->findText(QStringLiteral("[Base]")));
+    measure(QStringLiteral("show a list and fill the top members with %1 entries").arg(parents),
+            [&] { Q_EMIT lists->activated(lists->currentIndex()); });
+    measureList(opened, "cboParentMembers", QStringLiteral("a plain list"));
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QApplication application(argc, argv);
+    for (const qint32 members : {10, 1'000'000})
+        measureOpening(members);
+    for (const qint32 parents : {300, 30'000})
+        measureParents(parents);
+    return 0;
+}

@@ -3,6 +3,7 @@
 #include "runtime/RuntimeError.h"
 
 #include <QSet>
+#include <QStringBuilder>
 
 #include <limits>
 
@@ -36,15 +37,10 @@ MemberId toMemberId(QStringView text)
 
 } // namespace
 
-QString rootPathLabel()
+QString memberPathEntry(MemberId parent, QStringView parentLabel, MemberId member,
+                        QStringView label)
 {
-    return u"ROOT"_s;
-}
-
-QString memberPathEntry(MemberId parent, const QString &parentLabel, MemberId member,
-                        const QString &label)
-{
-    return QString::number(parent) + u'_' + parentLabel + u'#' + QString::number(member) + u'_' +
+    return QString::number(parent) % u'_' % parentLabel % u'#' % QString::number(member) % u'_' %
            label;
 }
 
@@ -52,6 +48,7 @@ QString memberPathEntry(MemberId parent, const QString &parentLabel, MemberId me
 void MemberPaths::read(hfm::Dimension &dimension, qint32 most)
 {
     mOccurrences.clear();
+    mLabels = {};
     std::vector<OpenParent> open;
     QSet<MemberId> openMembers; // parents alone: a base member ends every way down
     const auto openParent = [&](MemberId member, qint32 position) {
@@ -77,7 +74,8 @@ void MemberPaths::read(hfm::Dimension &dimension, qint32 most)
         const MemberId child = parent.children.at(parent.next++);
         QString label = dimension.GetMemberLabel(child);
         const bool splitsChildren = label.contains(u'#');
-        mOccurrences.push_back({child, parent.position, std::move(label), splitsChildren});
+        mOccurrences.push_back(
+            {child, parent.position, mLabels.append(std::move(label)), splitsChildren});
         openParent(child, count() - 1); // invalidates `parent`
     }
 }
@@ -86,10 +84,11 @@ QString MemberPaths::entry(qint32 position) const
 {
     const Occurrence &occurrence = at(position);
     if (occurrence.parent == none)
-        return memberPathEntry(hfm::rootMember, rootPathLabel(), occurrence.member,
-                               occurrence.label);
+        return memberPathEntry(hfm::rootMember, rootPathLabel, occurrence.member,
+                               occurrence.label.toString());
     const Occurrence &parent = at(occurrence.parent);
-    return memberPathEntry(parent.member, parent.label, occurrence.member, occurrence.label);
+    return memberPathEntry(parent.member, parent.label.toString(), occurrence.member,
+                           occurrence.label.toString());
 }
 
 QString MemberPaths::parentPart(qint32 position) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hfm/Dimension.h"
+#include "viewer/TextStore.h"
 
 #include <vector>
 
@@ -23,8 +24,8 @@ public:
     struct Occurrence
     {
         hfm::MemberId member;
-        qint32 parent; ///< the position of the parent's occurrence, none below the root
-        QString label;
+        qint32 parent;       ///< the position of the parent's occurrence, none below the root
+        StoredText label;    ///< valid as long as the entries are
         bool splitsChildren; ///< the label holds a '#'
     };
 
@@ -52,10 +53,11 @@ public:
 
 private:
     std::vector<Occurrence> mOccurrences;
+    TextStore mLabels;
 };
 
 /// "<parentID>_<parentLabel>#<memberID>_<memberLabel>"
-QString memberPathEntry(hfm::MemberId parent, const QString &parentLabel, hfm::MemberId member,
-                        const QString &label);
+QString memberPathEntry(hfm::MemberId parent, QStringView parentLabel, hfm::MemberId member,
+                        QStringView label);
 /// The label that the root has in a path entry.
-QString rootPathLabel();
+inline constexpr QStringView rootPathLabel = u"ROOT";

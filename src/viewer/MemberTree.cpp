@@ -19,7 +19,12 @@ void MemberTree::build(const MemberPaths &paths, const TextOf &textOf)
         node.member = occurrence.member;
         node.pathParent = occurrence.parent;
         node.parent = parents.parentOf(position);
-        append(node, occurrence.label, textOf(paths.memberId(position)));
+        QString text = textOf(paths.memberId(position));
+        node.labelSize = occurrence.label.size;
+        node.textBehindLabel = !occurrence.label.isPrefixOf(text);
+        if (node.textBehindLabel)
+            text.prepend(occurrence.label.toString());
+        append(node, std::move(text));
     }
 }
 
@@ -29,14 +34,14 @@ void MemberTree::buildList(const QList<hfm::MemberId> &members, const TextOf &te
     reserve(members.size());
     const auto linked = qScopeGuard([this] { linkChildren(); });
     for (const hfm::MemberId member : members) {
-        const QString text = textOf(member);
+        QString text = textOf(member);
         if (text.isEmpty())
             continue;
         Node node{};
         node.member = member;
         node.pathParent = node.parent = none;
-        const qsizetype labelSize = text.indexOf(" - "_L1);
-        append(node, QStringView(text).first(std::max(labelSize, qsizetype(0))), text);
+        node.labelSize = qint32(std::max(text.indexOf(" - "_L1), qsizetype(0)));
+        append(node, std::move(text));
     }
 }
 
@@ -47,12 +52,13 @@ void MemberTree::reserve(qsizetype count)
     mChildren.resize(size_t(count));
 }
 
-void MemberTree::append(Node node, QStringView label, QStringView text)
+/// `text` with the label in front where the text does not begin with it.
+void MemberTree::append(Node node, QString text)
 {
-    node.textBehindLabel = !text.startsWith(label);
-    node.label = node.textBehindLabel ? mTexts.append(label, text) : mTexts.append(text);
-    node.labelSize = qint32(label.size());
-    node.textSize = qint32(text.size());
+    const StoredText stored = mTexts.append(std::move(text));
+    node.place = stored.place;
+    node.isWide = stored.isWide;
+    node.textSize = node.textBehindLabel ? stored.size - node.labelSize : stored.size;
     if (node.parent == none) {
         node.level = 1;
         node.row = mRootCount;
@@ -89,15 +95,21 @@ qint32 MemberTree::child(qint32 parent, qint32 row) const
     return mChildren[size_t((parent == none ? 0 : at(parent).firstChild) + row)];
 }
 
-QStringView MemberTree::textView(qint32 node) const
+QString MemberTree::text(qint32 node) const
 {
     const Node &found = at(node);
-    return {found.textBehindLabel ? found.label + found.labelSize : found.label, found.textSize};
+    const qint32 position = found.textBehindLabel ? found.labelSize : 0;
+    return stored(found).mid(position, found.textSize).toString();
 }
 
-QStringView MemberTree::label(qint32 node) const
+QString MemberTree::label(qint32 node) const
 {
-    return {at(node).label, at(node).labelSize};
+    return stored(at(node)).mid(0, at(node).labelSize).toString();
+}
+
+StoredText MemberTree::stored(const Node &node)
+{
+    return {node.place, node.textSize + (node.textBehindLabel ? node.labelSize : 0), node.isWide};
 }
 
 QString MemberTree::key(qint32 node) const
@@ -110,9 +122,8 @@ QString MemberTree::tag(qint32 node) const
     if (mIsList)
         return {};
     const Node &found = at(node);
-    const QString ownLabel = label(node).toString();
     if (found.pathParent == none)
-        return memberPathEntry(hfm::rootMember, rootPathLabel(), found.member, ownLabel);
-    return memberPathEntry(at(found.pathParent).member, label(found.pathParent).toString(),
-                           found.member, ownLabel);
+        return memberPathEntry(hfm::rootMember, rootPathLabel, found.member, label(node));
+    return memberPathEntry(at(found.pathParent).member, label(found.pathParent), found.member,
+                           label(node));
 }

@@ -47,11 +47,9 @@ public:
     /// 1 for a root node, one more than its parent's for any other.
     qint32 level(qint32 node) const { return at(node).level; }
 
-    QString text(qint32 node) const { return textView(node).toString(); }
-    /// The text, valid as long as the tree.
-    QStringView textView(qint32 node) const;
+    QString text(qint32 node) const;
     /// The label of the member that the node stands for. In a list, the text before " - ".
-    QStringView label(qint32 node) const;
+    QString label(qint32 node) const;
     /// "KEY" and the node's number; empty in a list.
     QString key(qint32 node) const;
     /// The path entry (MemberPaths); empty in a list.
@@ -60,9 +58,9 @@ public:
 private:
     struct Node
     {
-        const char16_t *label; ///< where the text begins with the label, both begin here
-        hfm::MemberId member;  ///< as in the path entry
-        qint32 pathParent;     ///< the occurrence that the path entry names as the parent
+        const uchar *place;   ///< of the text, and the label with which it begins
+        hfm::MemberId member; ///< as in the path entry
+        qint32 pathParent;    ///< the occurrence that the path entry names as the parent
         qint32 parent;
         qint32 row;
         qint32 level;
@@ -70,12 +68,14 @@ private:
         qint32 childCount;
         qint32 labelSize;
         qint32 textSize;
+        bool isWide;
         bool textBehindLabel; ///< the text does not begin with the label and stands behind it
     };
 
     const Node &at(qint32 node) const { return mNodes[size_t(node)]; }
     void reserve(qsizetype count);
-    void append(Node node, QStringView label, QStringView text);
+    void append(Node node, QString text);
+    static StoredText stored(const Node &node);
     void linkChildren() noexcept;
 
     std::vector<Node> mNodes;

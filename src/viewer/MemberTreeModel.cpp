@@ -115,7 +115,7 @@ QString MemberTreeModel::joinedTexts(const QModelIndexList &indexes) const
     std::sort(nodes.begin(), nodes.end());
     QString text;
     for (const qint32 each : nodes)
-        text += mTree->textView(each) % u'\n';
+        text += mTree->text(each) % u'\n';
     text.chop(1);
     return text;
 }

@@ -140,7 +140,7 @@ void frmMetadataViewer::setTopMember()
         button->hide();
     mTopMember.show(mMembers.tree(), mMembers.node(top));
     mControls.topMember->setCurrentIndex(mTopMember.index(0, 0));
-    mTopMemberName = TopMemberView::name(mMembers.tree()->textView(mMembers.node(top)));
+    mTopMemberName = TopMemberView::name(mMembers.tree()->text(mMembers.node(top)));
     mTopMemberCount = 1;
     mTopMemberLevels = 0;
     qint32 depth = 0;

@@ -171,6 +171,13 @@ private Q_SLOTS:
         QCOMPARE(tags(*mTree), QStringList({u"-1_ROOT#0_A"_s, u"0_A#1_B"_s}));
     }
 
+    void anyCharactersKeepTheirPlaces()
+    {
+        build(u"\u00C4rger|\u4E2D\n  \u4E2D|\u00E9"_s);
+        QCOMPARE(printedTexts(*mTree), u"\u00C4rger - \u4E2D\n  \u4E2D - \u00E9\n"_s);
+        QCOMPARE(mTree->tag(1), u"0_\u00C4rger#1_\u4E2D"_s);
+    }
+
     void aListHasNeitherKeysNorTags()
     {
         mDimension.setMembers(u"A|one\n  B-C|two\nD|three"_s);

@@ -29,6 +29,8 @@ void HierarchySection::readColumns(const QList<QByteArrayView> &columns)
             mParentIndex = i;
         else if (sameWord(columns[i], "Child"))
             mChildIndex = i;
+        else if (sameWord(columns[i], "AggrWeight") || sameWord(columns[i], "Weight"))
+            mWeightIndex = i;
     }
     mKnownFields = std::max(mKnownFields, columns.size());
 }
@@ -45,19 +47,35 @@ void HierarchySection::readRecord(QByteArrayView line, Place place)
         });
         return;
     }
-    if (mFields.count() - mFirst > mKnownFields)
+    checkFields(place);
+    const MemberId parentId = parent(mFields.at(mFirst + mParentIndex), place);
+    mDimension.addEdge({parentId, child(parentId, childLabel, place)}, place);
+}
+
+/// A delimiter too many at the line's end makes no field.
+qsizetype HierarchySection::fieldCount() const
+{
+    qsizetype count = mFields.count() - mFirst;
+    while (count > mKnownFields && mFields.at(mFirst + count - 1).isEmpty())
+        --count;
+    return count;
+}
+
+void HierarchySection::checkFields(Place place)
+{
+    if (const qsizetype count = fieldCount(); count > mKnownFields) {
         mDraft.warnings.add(place, [&] {
             return QStringLiteral("The line has %1 fields where %2 are known; the last ones are "
                                   "left out.")
-                .arg(QString::number(mFields.count() - mFirst), QString::number(mKnownFields));
+                .arg(QString::number(count), QString::number(mKnownFields));
         });
-    else if (mKnownFields == 3 && !isNumber(mFields.at(mFirst + 2)))
+        return;
+    }
+    const QByteArrayView weight = mFields.at(mFirst + mWeightIndex);
+    if (mKnownFields == 3 && !isNumber(weight))
         mDraft.warnings.add(place, [&] {
-            return QStringLiteral("The weight %1 is no number.")
-                .arg(quoted(mFields.at(mFirst + 2)));
+            return QStringLiteral("The weight %1 is no number.").arg(quoted(weight));
         });
-    const MemberId parentId = parent(mFields.at(mFirst + mParentIndex), place);
-    mDimension.addEdge({parentId, child(parentId, childLabel, place)}, place);
 }
 
 /// In a file that is delimited by '#', the parent "#root" falls into an empty field and "root".

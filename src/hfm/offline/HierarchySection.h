@@ -39,6 +39,8 @@ public:
 
 private:
     void rejoinRoot();
+    qsizetype fieldCount() const;
+    void checkFields(Place place);
     MemberId parent(QByteArrayView label, Place place);
     MemberId child(MemberId parentId, QByteArrayView label, Place place);
 
@@ -47,6 +49,7 @@ private:
     char mDelimiter;
     qsizetype mParentIndex = 0;
     qsizetype mChildIndex = 1;
+    qsizetype mWeightIndex = 2;
     qsizetype mKnownFields;
     MemberId mLastParent = rootMember;
     MemberId mChildrenOf = rootMember; ///< whose children mExpected speaks of

@@ -26,6 +26,11 @@ void MemberRecord::findParts()
     mPositional = std::min(mLayout->hasDefaultParent() ? mLayout->count() : 1, mFields.count());
     while (mPositional < mFields.count() && !mFields.at(mPositional).contains('='))
         ++mPositional;
+    // A delimiter too many at the line's end makes no field.
+    if (mPositional == mFields.count()) {
+        while (mPositional > mLayout->count() && mFields.at(mPositional - 1).isEmpty())
+            --mPositional;
+    }
 }
 
 QByteArrayView MemberRecord::defaultParent() const

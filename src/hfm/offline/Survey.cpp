@@ -4,9 +4,34 @@
 #include "hfm/offline/ReadingError.h"
 #include "hfm/offline/Syntax.h"
 
+#include <algorithm>
+#include <array>
+
 namespace hfm::offline {
 
 namespace {
+
+/// One bit for each character that may delimit, none for others.
+constexpr quint32 delimiterBit(char c)
+{
+    const size_t at = delimiters.find(c);
+    return at == std::string_view::npos ? 0 : quint32(1) << at;
+}
+
+/// The bits of all delimiters that a text holds.
+quint32 delimitersIn(QByteArrayView text)
+{
+    static constexpr auto bits = [] {
+        std::array<quint32, 256> table = {};
+        for (size_t c = 0; c < table.size(); ++c)
+            table[c] = delimiterBit(char(c));
+        return table;
+    }();
+    quint32 held = 0;
+    for (const char c : text)
+        held |= bits[size_t(uchar(c))];
+    return held;
+}
 
 /// Finds the delimiter, which no file states: by the record of a top-level member, else by the
 /// comment that names the columns, else by a member's DefaultParent field.
@@ -25,23 +50,35 @@ public:
             if (!mByComment)
                 mByComment = afterLabel(line);
         } else if (mInHierarchy) {
-            if (!mByTopMember)
-                mByTopMember = beforeTopMember(trimmed(line));
+            lookAtEdge(trimmed(line));
         } else if (mInMembers && !mByDefaultParent) {
             mByDefaultParent = beforeDefaultParent(line);
         }
     }
 
+    /// The delimiter stands in every record of a hierarchy, so a first character that another
+    /// record does without only begins a label. Where a label begins with a character that the
+    /// others happen to hold too, the comment or the members tell which of the two it is.
     char result() const
     {
-        for (const char found : {mByTopMember, mByComment, mByDefaultParent}) {
-            if (found)
+        const char told = mByComment ? mByComment : mByDefaultParent;
+        if (told && isInEveryEdge(told))
+            return told;
+        for (const char found : mBeforeTopMembers) {
+            if (isInEveryEdge(found))
                 return found;
         }
-        return ';';
+        if (!mBeforeTopMembers.isEmpty())
+            return mBeforeTopMembers.front();
+        return told ? told : ';';
     }
 
 private:
+    bool isInEveryEdge(char delimiter) const
+    {
+        return (mInEveryEdge & delimiterBit(delimiter)) != 0;
+    }
+
     static char ifDelimiter(QByteArrayView text, qsizetype at)
     {
         return at >= 0 && at < text.size() && mayDelimit(text[at]) ? text[at] : '\0';
@@ -67,6 +104,16 @@ private:
         return ifDelimiter(record, 0);
     }
 
+    void lookAtEdge(QByteArrayView record)
+    {
+        // A record that was cut holds no delimiter and tells nothing.
+        if (const quint32 held = delimitersIn(record))
+            mInEveryEdge &= held;
+        const char found = beforeTopMember(record);
+        if (found && !mBeforeTopMembers.contains(found))
+            mBeforeTopMembers.append(found);
+    }
+
     static char beforeDefaultParent(QByteArrayView record)
     {
         constexpr QByteArrayView name = "DefaultParent=";
@@ -83,7 +130,8 @@ private:
 
     bool mInHierarchy = false;
     bool mInMembers = false;
-    char mByTopMember = '\0';
+    quint32 mInEveryEdge = ~quint32(0); ///< the delimiters that every record of a hierarchy holds
+    QByteArray mBeforeTopMembers;       ///< what records begin with, in order of appearance
     char mByComment = '\0';
     char mByDefaultParent = '\0';
 };

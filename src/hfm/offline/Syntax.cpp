@@ -6,7 +6,7 @@ namespace hfm::offline {
 
 bool mayDelimit(char c)
 {
-    return QByteArrayView(",~@$%^&|:;?\\#").contains(c);
+    return delimiters.find(c) != std::string_view::npos;
 }
 
 std::optional<SectionHeader> sectionHeader(QByteArrayView line)

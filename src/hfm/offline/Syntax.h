@@ -4,6 +4,7 @@
 #include <QList>
 
 #include <optional>
+#include <string_view>
 #include <vector>
 
 /// The small pieces of the APP syntax that HFM's metadata files are written in. All text is UTF-8;
@@ -30,6 +31,7 @@ inline bool sameWord(QByteArrayView left, QByteArrayView right)
 }
 
 /// The characters that HFM lets a file's writer choose a delimiter from.
+inline constexpr std::string_view delimiters = ",~@$%^&|:;?\\#";
 bool mayDelimit(char c);
 
 /// A line that begins a section: "!NAME" or "!NAME=argument".

@@ -140,6 +140,16 @@ private Q_SLOTS:
         QCOMPARE(reading.warnings(), QStringList());
     }
 
+    void itNamesTheWeightOfAHierarchyWhereverItStands()
+    {
+        const Reading reading = readText("!HIERARCHIES=Custom1\n'Child;AggrWeight;Parent\n"
+                                         "A;1;\nB;-1;A\n!MEMBERS=Custom1\n"
+                                         "'Label;DefaultParent;Descriptions\n"
+                                         "A;DefaultParent=#root\nB;DefaultParent=A\n");
+        QCOMPARE(treeOf(*reading.custom1()), u"A\n  B\n[None]\n"_s);
+        QCOMPARE(reading.warnings(), QStringList());
+    }
+
     void recordsWithFewerFieldsThanItNamesHaveTheMissingOnesEmpty()
     {
         const Reading reading =

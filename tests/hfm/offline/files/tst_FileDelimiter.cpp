@@ -123,6 +123,29 @@ private Q_SLOTS:
         QCOMPARE(treeOf(*reading.entity()), u"A\n  B\n"_s);
     }
 
+    void aParentThatBeginsWithADelimitersCharacterIsNoEmptyParent_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        const QByteArray members = "!MEMBERS=Entity\n"
+                                   "'Label;UserDefined1;DefaultParent;Descriptions\n"
+                                   "%M;one;DefaultParent=#root\nB;two;DefaultParent=%M\n";
+        QTest::newRow("before the first empty parent")
+            << "!HIERARCHIES=Entity\n%M;B\n;%M\n" + members;
+        QTest::newRow("where the root is written out")
+            << "!HIERARCHIES=Entity\n%M;B\n#root;%M\n" + members;
+        QTest::newRow("after the first empty parent")
+            << "!HIERARCHIES=Entity\n;%M\n%M;B\n" + members;
+    }
+
+    void aParentThatBeginsWithADelimitersCharacterIsNoEmptyParent()
+    {
+        QFETCH(QByteArray, text);
+        const Reading reading = readText(text);
+        QCOMPARE(treeOf(*reading.entity()), u"%M\n  B\n"_s);
+        QCOMPARE(reading.entity()->entityAttributes()->GetEntityUserDefined1(1), u"two"_s);
+        QCOMPARE(reading.warnings(), QStringList());
+    }
+
     void theProfileHasADelimiterOfItsOwn()
     {
         const Reading reading = readTexts({"!HIERARCHIES=Entity\n,A\nA,B\n",

@@ -111,6 +111,15 @@ private Q_SLOTS:
         QCOMPARE(treeOf(*reading.entity()), u"Group\n  Unit\n"_s);
     }
 
+    void aDelimiterTooManyAtTheEndIsNoFieldTooMany()
+    {
+        const Reading reading =
+            readText("!MEMBERS=Entity\nA;;;;;;;;;;;DefaultParent=#root;\n!HIERARCHIES=Entity\n;A;\n"
+                     "!MEMBERS=Value\n[None];\n!MEMBERS=ICP\n[ICP Top];;\n!MEMBERS=Custom1\nC\n"
+                     "!HIERARCHIES=Custom1\n;C;1;\n!MEMBERS=View\nV;\n!HIERARCHIES=View\n;V;\n");
+        QCOMPARE(reading.warnings(), QStringList());
+    }
+
     void aLineWithoutAChildIsAWarning()
     {
         const Reading reading =

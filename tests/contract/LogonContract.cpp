@@ -93,3 +93,20 @@ void LogonContract::aLogonMayBeRepeated()
     QVERIFY(client->Logon(false));
     QCOMPARE(userInterface->GetLogonInfo().userName, mClient.userName());
 }
+
+void LogonContract::anOpeningMayBeRepeatedWithoutAnotherLogon()
+{
+    const auto client = mClient.factory().createClient();
+    client->Initialize(mClient.factory().createLogonUserInterface());
+    mClient.answerNextLogon(true);
+    QVERIFY(client->Logon(false));
+
+    hfm::OpenedApplication opened;
+    mClient.answerNextOpening(false);
+    QVERIFY(!open(*client, opened));
+    QVERIFY(!opened.session);
+    mClient.answerNextOpening(true);
+    QVERIFY(open(*client, opened));
+    QCOMPARE(opened.applicationName, mClient.applicationName());
+    QVERIFY(opened.session);
+}

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void aLogonThatTheUserCancelsIsAnsweredFalse();
     void anOpeningThatTheUserCancelsLeavesEverythingAsItWas();
     void aLogonMayBeRepeated();
+    void anOpeningMayBeRepeatedWithoutAnotherLogon();
 
 private:
     ClientUnderTest &mClient;

@@ -66,7 +66,10 @@ int main(int argc, char *argv[])
 
     startUp(services, {[&] { frmSplash(services).showModal(); },
                        [&] {
-                           mainWindow.window()->show();
+                           frmMain *window = mainWindow.window();
+                           if (program.isEnding())
+                               return;
+                           window->show();
                            application.setQuitOnLastWindowClosed(true);
                        }});
     return program.run();

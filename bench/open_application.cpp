@@ -38,8 +38,8 @@ double memory(const char *name)
     qFatal("the memory in use is not told");
 }
 
-/// The processor time of this process, in seconds. Everything runs on one thread, and other programs
-/// of the machine do not count.
+/// The processor time of this process, in seconds. Everything runs on one thread, and other
+/// programs of the machine do not count.
 double processorTime()
 {
     timespec time = {};

@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QProxyStyle>
 #include <QStringListModel>
+#include <QStyledItemDelegate>
 
 using namespace Qt::StringLiterals;
 
@@ -45,6 +46,30 @@ QString spoken(QString caption)
 {
     return caption.remove(u'&').remove(u':').trimmed();
 }
+
+/// Makes all rows of a list as wide as the one with the most characters, so that each can be
+/// scrolled to. A list of equal rows asks for a single row's size.
+class EqualRows final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &row) const override
+    {
+        const QAbstractItemModel &rows = *row.model();
+        QModelIndex longest = row;
+        qsizetype most = 0;
+        for (int i = 0; i < rows.rowCount(); ++i) {
+            const QModelIndex candidate = rows.index(i, 0);
+            const qsizetype length = candidate.data().toString().size();
+            if (length > most) {
+                most = length;
+                longest = candidate;
+            }
+        }
+        return QStyledItemDelegate::sizeHint(option, longest);
+    }
+};
 
 } // namespace
 
@@ -101,6 +126,7 @@ QListView *TabControls::makeListBox(QWidget *parent, const char *name,
     list->setModel(new QStringListModel(list));
     list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     list->setUniformItemSizes(true);
+    list->setItemDelegate(new EqualRows(list));
     return list;
 }
 

@@ -26,7 +26,7 @@ QComboBox *makeTypedList(QLabel *label, const char *name);
 /// the user's.
 void setEntries(QComboBox *list, const QStringList &entries, int current);
 
-/// A list of texts over a QStringListModel of its own.
+/// A list of texts over a QStringListModel of its own. It opens at once however many rows it holds.
 QListView *makeListBox(QWidget *parent, const char *name, const QString &accessibleName);
 void setLines(QAbstractItemView *list, const QStringList &lines);
 

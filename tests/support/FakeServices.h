@@ -5,20 +5,24 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 /// Prompts that nobody has to click away.
 class FakePrompts final : public Prompts
 {
 public:
-    QList<Answer> answers; ///< of the next prompts, in order
-    QList<Prompt> asked;   ///< every prompt there was, in order
+    QList<Answer> answers;             ///< of the next prompts, in order
+    QList<Prompt> asked;               ///< every prompt there was, in order
+    std::function<void()> whileAsking; ///< runs while a prompt is shown, where it is set
 
     /// The next of `answers`; where none is left, the plain one: Yes where there are Yes and No,
     /// else Ok.
     Answer ask(const Prompt &prompt) override
     {
         asked.append(prompt);
+        if (whileAsking)
+            whileAsking();
         if (!answers.isEmpty())
             return answers.takeFirst();
         return prompt.buttons == Prompt::Buttons::YesNo ? Answer::Yes : Answer::Ok;

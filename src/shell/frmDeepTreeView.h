@@ -1,0 +1,41 @@
+#pragma once
+
+#include "runtime/ErrorTrap.h"
+
+#include <QTreeView>
+
+/// A tree view of one column that opens nodes quickly however many nodes there are, as deep as they
+/// may be, and lets long texts be scrolled to.
+class DeepTreeView : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    /// How deep nodes are opened by expandBelow(). A tree view lays out open nodes recursively, so
+    /// a deeper hierarchy, which no application has, would overflow the thread's stack.
+    static constexpr qint32 deepestExpansion = 1000;
+
+    explicit DeepTreeView(ErrorTrap &trap, QWidget *parent = nullptr);
+
+    /// Opens `index` and every node below it; every node of the tree where it is invalid.
+    void expandBelow(const QModelIndex &index);
+
+    void reset() override;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void updateGeometries() override;
+
+private:
+    bool handleKey(const QKeyEvent &event);
+    bool openAt(const QPoint &position);
+    void open(const QModelIndex &index);
+    bool isClosedParent(const QModelIndex &index) const;
+    void fitColumn();
+
+    ErrorTrap &mTrap;
+    int mWidest = 0; ///< of the rows seen since the last reset, in pixels
+};

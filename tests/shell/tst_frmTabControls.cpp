@@ -1,0 +1,89 @@
+#include "shell/frmTabControls.h"
+
+#include <QAccessible>
+#include <QScrollBar>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class tst_frmTabControls : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QWidget> mTab;
+
+private Q_SLOTS:
+    void init() { mTab = std::make_unique<QWidget>(); }
+
+    void controlsHaveTheirNamesAndAreSpokenWithoutMarks()
+    {
+        const auto *button = TabControls::makeButton(mTab.get(), "cmdGo", u"&Go on"_s);
+        QCOMPARE(button->objectName(), u"cmdGo"_s);
+        QCOMPARE(button->text(), u"&Go on"_s);
+        QCOMPARE(button->accessibleName(), u"Go on"_s);
+        QLabel *label = TabControls::makeLabel(mTab.get(), "lblLists", u"ACCOUNT &Lists:"_s);
+        const auto *combo = TabControls::makeList(label, "cboLists");
+        QCOMPARE(combo->objectName(), u"cboLists"_s);
+        QCOMPARE(combo->accessibleName(), u"ACCOUNT Lists"_s);
+        QCOMPARE(label->buddy(), combo);
+    }
+
+    void aLabelIsPlainText()
+    {
+        const auto *label = TabControls::makeLabel(mTab.get(), "lblName", u"<b>x</b>"_s);
+        QCOMPARE(label->textFormat(), Qt::PlainText);
+        QCOMPARE(label->text(), u"<b>x</b>"_s);
+    }
+
+    void noEntryIsChosenUntilOneIs()
+    {
+        QLabel *label = TabControls::makeLabel(mTab.get(), "lblLists", u"Lists:"_s);
+        auto *combo = TabControls::makeList(label, "cboLists");
+        TabControls::setEntries(combo, {u"A"_s, u"B"_s}, -1);
+        QCOMPARE(combo->currentText(), QString());
+        TabControls::setEntries(combo, {u"C"_s}, 0);
+        QCOMPARE(combo->currentText(), u"C"_s);
+    }
+
+    void theLongestRowCanBeScrolledToWhereverItStands_data()
+    {
+        QTest::addColumn<int>("place");
+        QTest::newRow("first") << 0;
+        QTest::newRow("in the middle") << 500;
+        QTest::newRow("last") << 999;
+    }
+
+    void theLongestRowCanBeScrolledToWhereverItStands()
+    {
+        QFETCH(int, place);
+        QListView *list = TabControls::makeListBox(mTab.get(), "lstRows", u"Rows"_s);
+        QStringList rows(1000, u"short"_s);
+        rows[place] = QString(200, u'W');
+        TabControls::setLines(list, rows);
+        list->resize(200, 200);
+        mTab->show();
+        const int width = list->fontMetrics().horizontalAdvance(rows[place]);
+        const QScrollBar *bar = list->horizontalScrollBar();
+        QVERIFY(bar->maximum() + list->viewport()->width() >= width);
+        TabControls::setLines(list, {u"short"_s});
+        QTRY_COMPARE(bar->maximum(), 0);
+    }
+
+    void allRowsAreOfOneHeight()
+    {
+        QListView *list = TabControls::makeListBox(mTab.get(), "lstRows", u"Rows"_s);
+        TabControls::setLines(list, {u"one"_s, u"two\nlines"_s, QString()});
+        list->resize(200, 200);
+        mTab->show();
+        const auto height = [&](int row) {
+            return list->visualRect(list->model()->index(row, 0)).height();
+        };
+        QVERIFY(height(0) > 0);
+        QCOMPARE(height(1), height(0));
+        QCOMPARE(height(2), height(0));
+    }
+};
+
+QTEST_MAIN(tst_frmTabControls)
+#include "tst_frmTabControls.moc"

@@ -2,6 +2,7 @@
 #include "extract/frmExtract.h"
 #include "hfm/offline/dlgOfflineDialogs.h"
 #include "hfm/offline/OfflineClient.h"
+#include "listbuilder/frmMemberListBuilder.h"
 #include "runtime/DesktopLauncher.h"
 #include "runtime/dlgPrompts.h"
 #include "runtime/QtProgram.h"
@@ -57,11 +58,14 @@ int main(int argc, char *argv[])
     WindowInstance<frmApplicationInfo> applicationInfo(
         [&] { return new frmApplicationInfo(services, global); });
     WindowInstance<frmExtract> extract([&] { return new frmExtract(services, global); });
+    WindowInstance<frmMemberListBuilder> listBuilder(
+        [&] { return new frmMemberListBuilder(services, global); });
     WindowInstance<frmMetadataViewer> viewer(
         [&] { return new frmMetadataViewer(services, global); });
     WindowInstance<frmMain> mainWindow([&] {
-        return new frmMain(global, services,
-                           {toolOf(applicationInfo), toolOf(extract), {}, toolOf(viewer)});
+        return new frmMain(
+            global, services,
+            {toolOf(applicationInfo), toolOf(extract), toolOf(listBuilder), toolOf(viewer)});
     });
 
     startUp(services, {[&] { frmSplash(services).showModal(); },

@@ -4,7 +4,7 @@
     make_samples.py [FOLDER]
 
 writes them into FOLDER, samples/Alderbrook where none is given. The same script always writes the
-same bytes. Comma, the small one, is written by hand.
+same bytes. Comma, the small one, and Meridian's member lists are written by hand.
 """
 
 import sys

@@ -52,13 +52,14 @@ void chooseIn(QComboBox &box, const QString &entry)
 void chooseIn(QAbstractItemView &view, const QString &entry)
 {
     const QAbstractItemModel &model = *view.model();
-    const QModelIndexList found =
-        model.match(model.index(0, 0), Qt::DisplayRole, entry, 1, Qt::MatchExactly);
+    const QModelIndexList found = model.match(model.index(0, 0), Qt::DisplayRole, entry, 1,
+                                              Qt::MatchExactly | Qt::MatchRecursive);
     if (found.isEmpty())
         lost(*view.window(), qPrintable(view.objectName()),
              qPrintable(QStringLiteral("has no entry ") + entry));
     view.scrollTo(found.first());
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(found.first()).center());
+    const QRect seen = view.visualRect(found.first()) & view.viewport()->rect();
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, seen.center());
 }
 
 } // namespace
@@ -78,6 +79,13 @@ void Hands::type(QWidget &window, const char *control, const QString &text)
     QWidget *target = box != nullptr ? box->lineEdit() : &widget;
     QTest::keyClick(target, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(target, text);
+}
+
+void Hands::key(QWidget &window, const char *control, Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QWidget &widget = usable(window, control);
+    widget.setFocus();
+    QTest::keyClick(&widget, key, modifiers);
 }
 
 void Hands::choose(QWidget &window, const char *control, const QString &entry)

@@ -11,7 +11,10 @@ namespace Hands {
 void click(QWidget &window, const char *control);
 /// Replaces the text of a text box or of an editable combo box.
 void type(QWidget &window, const char *control, const QString &text);
-/// Chooses the entry of that text in a combo box or a list, as a click on it does.
+/// Presses and releases a key in the control, which gets the focus.
+void key(QWidget &window, const char *control, Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+/// Chooses the entry of that text in a combo box, a list or a tree, as a click on it does. What is
+/// closed above a tree's entry is opened.
 void choose(QWidget &window, const char *control, const QString &entry);
 /// Brings the tab of that caption to the front, as a click on it does.
 void tab(QWidget &window, const char *control, const QString &caption);

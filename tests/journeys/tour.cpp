@@ -1,15 +1,15 @@
-// The tour: the whole program, from its start to a saved extract of the sample application
-// Meridian, driven from outside its windows. It is linked with the program's own main.cpp and
-// takes the folder for pictures and files as its argument.
+// The tour: the whole program with the sample application Meridian, from its start to a saved
+// extract and a saved member list, driven from outside its windows. It is linked with the program's
+// own main.cpp and takes the folder for pictures and files as its argument.
 
 #include "ApplicationInfoTour.h"
 #include "Hands.h"
 #include "Journey.h"
+#include "ListBuilderTour.h"
+#include "SaveTour.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QFile>
-#include <QMessageBox>
 #include <QSettings>
 
 namespace {
@@ -71,24 +71,6 @@ void extractEntities(Journey &journey)
                  });
 }
 
-void save(Journey &journey)
-{
-    journey.on(
-        QStringLiteral("frmDrvDirFil"), QStringLiteral("Name the file"), [&](QWidget &dialog) {
-            const QString file = QDir(journey.folder()).filePath(QStringLiteral("Entity.txt"));
-            Hands::type(dialog, "txtFileName",
-                        QDir(QCoreApplication::applicationDirPath()).relativeFilePath(file));
-            journey.picture(dialog, QStringLiteral("save"));
-            Hands::click(dialog, "cmdSave");
-        });
-    journey.on(QStringLiteral("QMessageBox"), QStringLiteral("Read that it was saved"),
-               [&](QWidget &box) {
-                   journey.check(box.windowTitle() == QLatin1String("File Saved"),
-                                 QStringLiteral("the file was saved"));
-                   static_cast<QMessageBox &>(box).accept();
-               });
-}
-
 void leave(Journey &journey)
 {
     journey.on(QStringLiteral("frmExtract"), QStringLiteral("Close the extract"),
@@ -113,7 +95,8 @@ void startTour()
                        journey->folder() + QStringLiteral("/settings"));
     logOn(*journey);
     extractEntities(*journey);
-    save(*journey);
+    saveAs(*journey, QStringLiteral("Entity.txt"));
+    buildList(*journey);
     informAboutApplication(*journey);
     leave(*journey);
     journey->start();

@@ -3,6 +3,7 @@
 // entry chosen. From the user's act to everything painted; times are the processor's.
 
 #include "appinfo/frmApplicationInfo.h"
+#include "BenchServices.h"
 #include "CpuTime.h"
 #include "GeneratedApplication.h"
 
@@ -13,33 +14,6 @@
 namespace {
 
 constexpr int rounds = 9;
-
-class NoClients final : public hfm::ClientFactory
-{
-public:
-    std::unique_ptr<hfm::VersionInformation> createVersionInformation() override { return {}; }
-    std::shared_ptr<hfm::LogonUserInterface> createLogonUserInterface() override { return {}; }
-    std::shared_ptr<hfm::Client> createClient() override { return {}; }
-};
-
-class NoPrompts final : public Prompts
-{
-public:
-    Answer ask(const Prompt &prompt) override { qFatal("%s", qPrintable(prompt.text)); }
-};
-
-class NoLauncher final : public Launcher
-{
-public:
-    void run(const QString &) override {}
-};
-
-class NoProgram final : public Program
-{
-public:
-    void end(int exitCode) override { std::exit(exitCode); }
-    bool isEnding() const override { return false; }
-};
 
 /// The window on an application, and everything that it needs.
 class Opened
@@ -53,7 +27,7 @@ public:
 
     void open()
     {
-        mWindow = std::make_unique<frmApplicationInfo>(mServices, mState);
+        mWindow = std::make_unique<frmApplicationInfo>(mServices.services(), mState);
         mWindow->show();
         settle();
     }
@@ -88,13 +62,7 @@ private:
         mWindow->grab();
     }
 
-    NoClients mClients;
-    NoPrompts mPrompts;
-    NoLauncher mLauncher;
-    SystemClock mClock;
-    NoProgram mProgram;
-    ErrorTrap mTrap{mPrompts, mProgram};
-    Services mServices{mClients, mPrompts, mLauncher, mClock, mProgram, mTrap, {}};
+    BenchServices mServices;
     modGlobal mState;
     std::unique_ptr<frmApplicationInfo> mWindow;
 };

@@ -60,5 +60,8 @@ section "The analyses" \
 section "The application information window" \
     "Opening it, filling its parent lists and opening one of 30,000 entries." \
     "$programs/appinfo_window"
+section "The member list builder" \
+    "Opening it and picking every member at once, to everything painted; beside item widgets with one object a row, whose tree finds parents by searching backwards." \
+    "$programs/build_list"
 
 mv "$report" docs/benchmarks.md

@@ -1,7 +1,7 @@
 # Sourced by run.sh and test.sh: installs the Debian packages that a script needs and this machine
 # lacks. Prints nothing when there is nothing to do.
 
-build_packages="ca-certificates cmake g++ libqt6svg6 libxlsxwriter-dev ninja-build qt6-base-dev"
+build_packages="ca-certificates cmake fp-utils g++ libqt6svg6 libxlsxwriter-dev ninja-build qt6-base-dev"
 test_packages="clang clang-format git libbenchmark-dev libclang-rt-14-dev librapidcheck-dev python3 python3-openpyxl"
 
 # need PACKAGE ...: makes sure that all of them are installed, as root or through sudo.

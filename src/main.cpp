@@ -47,8 +47,8 @@ int main(int argc, char *argv[])
     dlgPrompts prompts(program);
     ErrorTrap trap(prompts, program);
     SystemClock clock;
-    DesktopLauncher launcher;
     const QString programFolder = QCoreApplication::applicationDirPath();
+    DesktopLauncher launcher(programFolder + QStringLiteral("/help/pages/index.html"));
     hfm::offline::OfflineDialogs dialogs(hfm::offline::findSampleCluster(programFolder), clock,
                                          trap);
     hfm::offline::OfflineClientFactory clients(dialogs, dialogs);

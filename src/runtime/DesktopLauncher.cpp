@@ -3,6 +3,7 @@
 #include "runtime/RuntimeError.h"
 
 #include <QFileInfo>
+#include <QMimeDatabase>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -32,7 +33,23 @@ bool start(const QString &program, const QString &path)
     return !executable.isEmpty() && QProcess::startDetached(executable, arguments);
 }
 
+/// False only when the desktop says that no program is there for that kind of file.
+bool desktopHasViewer(const QString &path)
+{
+    const QString askDesktop = QStandardPaths::findExecutable(QStringLiteral("xdg-mime"));
+    if (askDesktop.isEmpty())
+        return true;
+    QProcess process;
+    process.start(askDesktop, {QStringLiteral("query"), QStringLiteral("default"),
+                               QMimeDatabase().mimeTypeForFile(path).name()});
+    return !process.waitForFinished() || !process.readAllStandardOutput().trimmed().isEmpty();
+}
+
 } // namespace
+
+DesktopLauncher::DesktopLauncher(QString webPage) : mWebPage(std::move(webPage))
+{
+}
 
 void DesktopLauncher::run(const QString &commandLine)
 {
@@ -44,6 +61,7 @@ void DesktopLauncher::run(const QString &commandLine)
         throw RuntimeError::naming(FileNotFound, program);
     if (!QFileInfo(path).isFile())
         throw RuntimeError::naming(FileNotFound, path);
-    if (!start(desktopViewer, path))
+    const bool isWebPageBetter = QFileInfo(mWebPage).isFile() && !desktopHasViewer(path);
+    if (!start(desktopViewer, isWebPageBetter ? mWebPage : path))
         throw RuntimeError::naming(FileNotFound, program + QStringLiteral(", ") + desktopViewer);
 }

@@ -64,6 +64,37 @@ private Q_SLOTS:
         QTRY_COMPARE(started("xdg-open"), "[" + help().toUtf8() + "]");
     }
 
+    void withoutAViewerForTheFileTheBrowserShowsTheWebPage()
+    {
+        addProgram("xdg-open");
+        addProgram("xdg-mime", "#!/bin/sh\n/bin/true\n");
+        addFile("program files/System11TessalyHelp.chm");
+        addFile("program files/index.html");
+        DesktopLauncher(at("program files/index.html")).run(helpCommand());
+        QTRY_COMPARE(started("xdg-open"), "[" + at("program files/index.html").toUtf8() + "]");
+    }
+
+    void aViewerForTheFileIsPreferredToTheWebPage()
+    {
+        addProgram("xdg-open");
+        addProgram("xdg-mime", "#!/bin/sh\n"
+                               "[ \"$*\" = 'query default application/vnd.ms-htmlhelp' ] &&"
+                               " echo viewer.desktop\n");
+        addFile("program files/System11TessalyHelp.chm");
+        addFile("program files/index.html");
+        DesktopLauncher(at("program files/index.html")).run(helpCommand());
+        QTRY_COMPARE(started("xdg-open"), "[" + help().toUtf8() + "]");
+    }
+
+    void aWebPageThatIsNotThereIsNotShown()
+    {
+        addProgram("xdg-open");
+        addProgram("xdg-mime", "#!/bin/sh\n/bin/true\n");
+        addFile("program files/System11TessalyHelp.chm");
+        DesktopLauncher(at("program files/index.html")).run(helpCommand());
+        QTRY_COMPARE(started("xdg-open"), "[" + help().toUtf8() + "]");
+    }
+
     void signsOfAShellMeanNothing()
     {
         addProgram("hh.exe");

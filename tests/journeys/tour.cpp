@@ -7,6 +7,7 @@
 #include "Journey.h"
 #include "ListBuilderTour.h"
 #include "SaveTour.h"
+#include "ViewerTour.h"
 
 #include <QApplication>
 #include <QDir>
@@ -96,6 +97,7 @@ void startTour()
     logOn(*journey);
     extractEntities(*journey);
     saveAs(*journey, QStringLiteral("Entity.txt"));
+    viewMetadata(*journey);
     buildList(*journey);
     informAboutApplication(*journey);
     leave(*journey);

@@ -2,6 +2,8 @@
 
 #include "runtime/Required.h"
 
+#include <QVarLengthArray>
+
 #include <algorithm>
 
 using hfm::MemberId;
@@ -9,32 +11,32 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QLatin1StringView accountTypeText(qint32 type)
+QStringView accountTypeText(qint32 type)
 {
-    static constexpr QLatin1StringView texts[] = {
-        "Income"_L1,     "Expense"_L1,          "Asset"_L1,        "Liability"_L1, "Balance"_L1,
-        "Flow"_L1,       "Non-Financial"_L1,    "CurrencyRate"_L1, "System"_L1,    "Text"_L1,
-        "GroupLabel"_L1, "BalanceRecurring"_L1, "Dynamic"_L1};
-    return type >= 0 && type < qint32(std::size(texts)) ? texts[type] : "TYPEERROR"_L1;
+    static constexpr QStringView texts[] = {
+        u"Income",     u"Expense",          u"Asset",        u"Liability", u"Balance",
+        u"Flow",       u"Non-Financial",    u"CurrencyRate", u"System",    u"Text",
+        u"GroupLabel", u"BalanceRecurring", u"Dynamic"};
+    return type >= 0 && type < qint32(std::size(texts)) ? texts[type] : u"TYPEERROR";
 }
 
-QLatin1StringView intercompanyText(qint32 code)
+QStringView intercompanyText(qint32 code)
 {
     switch (code) {
     case -1:
-        return "Yes"_L1;
+        return u"Yes";
     case 0:
-        return "No"_L1;
+        return u"No";
     case 1:
-        return "Restricted"_L1;
+        return u"Restricted";
     default:
-        return "**Error**"_L1;
+        return u"**Error**";
     }
 }
 
-QLatin1StringView truth(bool value)
+QStringView truth(bool value)
 {
-    return value ? "True"_L1 : "False"_L1;
+    return value ? u"True" : u"False";
 }
 
 bool isBlank(const QString &text)
@@ -47,34 +49,38 @@ QString textOrNone(const QString &text)
     return isBlank(text) ? u"[None]"_s : text;
 }
 
+QString nameOrDefault(const QString &className)
+{
+    return isBlank(className) ? u"[Default]"_s : className;
+}
+
 /// The items in the making.
 class Items
 {
 public:
-    Items() { mText.reserve(320); }
-
-    template <typename Value>
-    Items &add(QLatin1StringView nameAndSign, const Value &value)
+    Items &add(QStringView nameAndSign, QStringView value)
     {
         if (!mText.isEmpty())
-            mText += ", "_L1;
-        mText += nameAndSign;
-        mText += value;
+            append(u", ");
+        append(nameAndSign);
+        append(value);
         return *this;
     }
     Items &addHierarchy(hfm::Dimension &dimension, MemberId member)
     {
-        add("DefaultParent="_L1, dimension.GetDefaultParentLabel(member));
+        add(u"DefaultParent=", dimension.GetDefaultParentLabel(member));
         const bool isBase = dimension.GetGenerationsBelow(member) == 0;
-        const qint32 generation = dimension.GetDefaultParentGeneration(member);
-        return add("HierRelationship="_L1,
-                   (isBase ? u"Base[DefParGen:"_s : u"Parent[DefParGen:"_s) +
-                       QString::number(generation) + u']');
+        add(u"HierRelationship=", isBase ? u"Base[DefParGen:" : u"Parent[DefParGen:");
+        append(QString::number(dimension.GetDefaultParentGeneration(member)));
+        append(u"]");
+        return *this;
     }
-    const QString &text() const { return mText; }
+    QString text() const { return QString(mText.constData(), mText.size()); }
 
 private:
-    QString mText;
+    void append(QStringView text) { mText.append(text.data(), text.size()); }
+
+    QVarLengthArray<QChar, 512> mText; // quicker to append to than a QString
 };
 
 } // namespace
@@ -97,28 +103,28 @@ QString MemberAttributes::GetAccountAttributes(MemberId account)
     const auto dimension = metadata().GetAccountDimension();
     const auto view = required(dimension).accountAttributes();
     Items items;
-    items.add("Type="_L1, accountTypeText(view->GetAccountType(account)));
-    items.add("IsICP="_L1, intercompanyText(view->GetAccountIsICP(account)));
-    items.add("TopC1="_L1, topMemberLabel(1, view->GetAccountTopCustom1(account)));
-    items.add("TopC2="_L1, topMemberLabel(2, view->GetAccountTopCustom2(account)));
-    items.add("TopC3="_L1, topMemberLabel(3, view->GetAccountTopCustom3(account)));
-    items.add("TopC4="_L1, topMemberLabel(4, view->GetAccountTopCustom4(account)));
-    items.add({}, securityItem(view->GetAccountSecurityClassId(account)));
-    items.add("UD1="_L1, view->GetAccountUserDefined1(account));
+    items.add(u"Type=", accountTypeText(view->GetAccountType(account)));
+    items.add(u"IsICP=", intercompanyText(view->GetAccountIsICP(account)));
+    items.add(u"TopC1=", topMemberLabel(1, view->GetAccountTopCustom1(account)));
+    items.add(u"TopC2=", topMemberLabel(2, view->GetAccountTopCustom2(account)));
+    items.add(u"TopC3=", topMemberLabel(3, view->GetAccountTopCustom3(account)));
+    items.add(u"TopC4=", topMemberLabel(4, view->GetAccountTopCustom4(account)));
+    items.add(u"Security=", nameOrDefault(className(view->GetAccountSecurityClassId(account))));
+    items.add(u"UD1=", view->GetAccountUserDefined1(account));
     // Read, but never printed: an account's second text is always shown as empty. Kept.
     view->GetAccountUserDefined2(account);
-    items.add("UD2="_L1, ""_L1);
-    items.add("UD3="_L1, view->GetAccountUserDefined3(account));
+    items.add(u"UD2=", {});
+    items.add(u"UD3=", view->GetAccountUserDefined3(account));
     if (mExpanded) {
         items.addHierarchy(*dimension, account);
-        items.add("DecPlaces="_L1, QString::number(view->GetAccountDecimalPlaces(account)));
-        items.add("IsCalc="_L1, truth(view->GetAccountIsCalculated(account)));
-        items.add("IsCons="_L1, truth(view->GetAccountIsConsolidated(account)));
-        items.add("IsLID="_L1, truth(view->GetAccountIsLID(account)));
-        items.add("C1AggEnabled="_L1, truth(view->GetAccountCustom1AggEnabled(account)));
-        items.add("C2AggEnabled="_L1, truth(view->GetAccountCustom2AggEnabled(account)));
-        items.add("C3AggEnabled="_L1, truth(view->GetAccountCustom3AggEnabled(account)));
-        items.add("C4AggEnabled="_L1, truth(view->GetAccountCustom4AggEnabled(account)));
+        items.add(u"DecPlaces=", QString::number(view->GetAccountDecimalPlaces(account)));
+        items.add(u"IsCalc=", truth(view->GetAccountIsCalculated(account)));
+        items.add(u"IsCons=", truth(view->GetAccountIsConsolidated(account)));
+        items.add(u"IsLID=", truth(view->GetAccountIsLID(account)));
+        items.add(u"C1AggEnabled=", truth(view->GetAccountCustom1AggEnabled(account)));
+        items.add(u"C2AggEnabled=", truth(view->GetAccountCustom2AggEnabled(account)));
+        items.add(u"C3AggEnabled=", truth(view->GetAccountCustom3AggEnabled(account)));
+        items.add(u"C4AggEnabled=", truth(view->GetAccountCustom4AggEnabled(account)));
     }
     mGlobal.gDimension = metadata().GetAccountDimension();
     return items.text();
@@ -132,18 +138,18 @@ QString MemberAttributes::GetEntityAttributes(MemberId entity)
     const QString currency = required(value).GetMemberLabel(view->GetEntityCurrencyId(entity));
     const QString securityClass = className(view->GetEntitySecurityClassId(entity));
     Items items;
-    items.add("Currency="_L1, currency);
-    items.add("Adjs="_L1, truth(view->GetEntityAllowAdjs(entity)));
-    items.add("ChildAdjs="_L1, truth(view->GetEntityAllowChildAdjs(entity)));
+    items.add(u"Currency=", currency);
+    items.add(u"Adjs=", truth(view->GetEntityAllowAdjs(entity)));
+    items.add(u"ChildAdjs=", truth(view->GetEntityAllowChildAdjs(entity)));
     // A class whose name is blank is shown without "Security=", unlike anywhere else. Kept.
     if (isBlank(securityClass))
-        items.add("[Default]"_L1, ""_L1);
+        items.add(u"[Default]", {});
     else
-        items.add("Security="_L1, securityClass);
-    items.add("ICP="_L1, truth(view->GetEntityIsICP(entity)));
-    items.add("UD1="_L1, textOrNone(view->GetEntityUserDefined1(entity)));
-    items.add("UD2="_L1, textOrNone(view->GetEntityUserDefined2(entity)));
-    items.add("UD3="_L1, textOrNone(view->GetEntityUserDefined3(entity)));
+        items.add(u"Security=", securityClass);
+    items.add(u"ICP=", truth(view->GetEntityIsICP(entity)));
+    items.add(u"UD1=", textOrNone(view->GetEntityUserDefined1(entity)));
+    items.add(u"UD2=", textOrNone(view->GetEntityUserDefined2(entity)));
+    items.add(u"UD3=", textOrNone(view->GetEntityUserDefined3(entity)));
     if (mExpanded)
         items.addHierarchy(*dimension, entity);
     if (mFilter.on && !mFilter.passes(currency, securityClass))
@@ -156,10 +162,10 @@ QString MemberAttributes::GetCustomAttributes(MemberId member)
     const auto dimension = customDimension(mGlobal.gDimensionName.last(1).toInt());
     const auto view = required(dimension).customAttributes();
     Items items;
-    items.add("UD1="_L1, view->GetCustomUserDefined1(member));
-    items.add("UD2="_L1, view->GetCustomUserDefined2(member));
-    items.add("UD3="_L1, view->GetCustomUserDefined3(member));
-    items.add({}, securityItem(view->GetCustomSecurityClassId(member)));
+    items.add(u"UD1=", view->GetCustomUserDefined1(member));
+    items.add(u"UD2=", view->GetCustomUserDefined2(member));
+    items.add(u"UD3=", view->GetCustomUserDefined3(member));
+    items.add(u"Security=", nameOrDefault(className(view->GetCustomSecurityClassId(member))));
     return items.text();
 }
 
@@ -194,10 +200,4 @@ QString MemberAttributes::className(hfm::ClassId securityClass)
         return u"[Default]"_s;
     mGlobal.gSecurity = required(mGlobal.gSession).GetSecurity();
     return required(mGlobal.gSecurity).GetSecurityClassName(securityClass);
-}
-
-QString MemberAttributes::securityItem(hfm::ClassId securityClass)
-{
-    const QString name = className(securityClass);
-    return u"Security="_s + (isBlank(name) ? u"[Default]"_s : name);
 }

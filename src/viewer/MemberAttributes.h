@@ -33,7 +33,6 @@ private:
     std::shared_ptr<hfm::Dimension> customDimension(int number) const;
     QString topMemberLabel(int number, hfm::MemberId topMember);
     QString className(hfm::ClassId securityClass);
-    QString securityItem(hfm::ClassId securityClass);
 
     modGlobal &mGlobal;
     bool mExpanded;

@@ -48,12 +48,17 @@ public:
     QList<QString> GetLanguages() override { return mApplication->languages; }
 
 private:
-    Answer dimension(DimensionKind kind) const
+    // One object a dimension: tools ask for the same few once for every member.
+    Answer dimension(DimensionKind kind)
     {
-        return std::make_shared<OfflineDimension>(mApplication, kind);
+        Answer &answer = mAnswers[size_t(kind)];
+        if (!answer)
+            answer = std::make_shared<OfflineDimension>(mApplication, kind);
+        return answer;
     }
 
     std::shared_ptr<const Application> mApplication;
+    std::array<Answer, allDimensionKinds.size()> mAnswers;
 };
 
 } // namespace

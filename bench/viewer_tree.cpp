@@ -6,7 +6,8 @@
 //
 // Each size is measured with narrow parents (8 children on average, one in fifty ten times that)
 // and with wide ones (50 children), since the backward search passes over a parent's earlier
-// children. The QTreeWidget is built up to 100,000 members.
+// children. The QTreeWidget is built up to 100,000 members. Both sides make the same texts: "alone"
+// compares what either takes beyond that.
 
 #include "generator/ApplicationGenerator.h"
 #include "hfm/offline/OfflineSession.h"
@@ -122,8 +123,12 @@ public:
         addChildMembers(-1, root);
         for (const QString &path : mPaths)
             addItem(path, root);
+        mMaxLevel = 1;
+        for (const QTreeWidgetItem *item : mItems)
+            mMaxLevel = std::max(mMaxLevel, levelOf(item));
     }
     qsizetype count() const { return mItems.size(); }
+    qint32 maxLevel() const { return mMaxLevel; }
 
 private:
     static constexpr int tagRole = Qt::UserRole + 1;
@@ -160,50 +165,74 @@ private:
         mItems.append(item);
     }
 
+    static qint32 levelOf(const QTreeWidgetItem *item)
+    {
+        qint32 level = 0;
+        for (; item; item = item->parent())
+            ++level;
+        return level;
+    }
+
     modGlobal &mGlobal;
     MemberTexts &mTexts;
     QTreeWidget mWidget;
     QStringList mPaths;
     QList<QTreeWidgetItem *> mItems;
+    qint32 mMaxLevel = 1;
 };
+
+std::vector<hfm::MemberId> occurrences(hfm::Dimension &dimension)
+{
+    MemberPaths paths;
+    paths.read(dimension);
+    std::vector<hfm::MemberId> members;
+    for (qint32 i = 0; i < paths.count(); ++i)
+        members.push_back(paths.at(i).member);
+    return members;
+}
+
+/// Bytes in use for a tree, less two for each character of its texts.
+double bytesOverText(modGlobal &global, MemberTexts &texts)
+{
+    malloc_trim(0);
+    const double before = bytesInUse();
+    const auto tree = build(global, texts);
+    const double used = bytesInUse() - before;
+    double characters = 0;
+    for (qint32 node = 0; node < tree->count(); ++node)
+        characters += double(tree->text(node).size());
+    return used - 2 * characters;
+}
+
+/// Both trees are built again where one stood before, and that one is freed.
+void compareWithPeer(modGlobal &global, MemberTexts &texts, double textsOnly, double building)
+{
+    const auto tree = build(global, texts);
+    Peer peer(global, texts);
+    peer.build();
+    const double straightforward = timeOf([&] { peer.build(); });
+    if (peer.count() != tree->count() || peer.maxLevel() != tree->maxLevel())
+        qFatal("the trees differ");
+    std::printf(" %10.0f %7.1f %7.1f", straightforward, straightforward / building,
+                (straightforward - textsOnly) / (building - textsOnly));
+}
 
 void measureBuild(modGlobal &global, qint32 fanOut, bool showAttributes)
 {
     MemberTexts texts(global, {.showAttributes = showAttributes});
-    std::vector<hfm::MemberId> members;
-    double characters = 0;
-    double overText = 0;
-    {
-        MemberPaths paths;
-        paths.read(*global.gDimension);
-        for (qint32 i = 0; i < paths.count(); ++i)
-            members.push_back(paths.at(i).member);
-    }
-    {
-        malloc_trim(0);
-        const double before = bytesInUse();
-        const auto tree = build(global, texts);
-        const double used = bytesInUse() - before;
-        for (qint32 node = 0; node < tree->count(); ++node)
-            characters += double(tree->text(node).size());
-        overText = (used - 2 * characters) / double(members.size());
-    }
+    const std::vector<hfm::MemberId> members = occurrences(*global.gDimension);
+    const auto nodes = double(members.size());
+    const double overText = bytesOverText(global, texts);
     const double textsOnly = medianTimeOf([&] {
         for (const hfm::MemberId member : members)
             texts.GetMemberNodeText(member);
     });
     const double building = medianTimeOf([&] { build(global, texts); });
-    const double nodes = double(members.size());
     std::printf("%9.0f %5d  %-6s %9.1f %9.1f %6.2f %8.0f %9.1f", nodes, fanOut,
                 showAttributes ? "shown" : "hidden", textsOnly, building, building / textsOnly,
-                building / nodes * 1e6, overText);
-    if (members.size() <= 2 * largestPeer) {
-        Peer peer(global, texts);
-        const double straightforward = timeOf([&] { peer.build(); });
-        if (peer.count() != qsizetype(members.size()))
-            qFatal("the trees differ");
-        std::printf(" %10.0f %7.1f", straightforward, straightforward / building);
-    }
+                building / nodes * 1e6, overText / nodes);
+    if (members.size() <= 2 * largestPeer)
+        compareWithPeer(global, texts, textsOnly, building);
     std::printf("\n");
 }
 
@@ -267,8 +296,9 @@ int main(int argc, char **argv)
     if (sizes.empty())
         sizes = {10'000, 100'000, 1'000'000};
 
-    std::printf("%9s %5s  %-6s %9s %9s %6s %8s %9s %10s %7s\n", "nodes", "wide", "attr.",
-                "texts ms", "build ms", "ratio", "ns/node", "B/node", "widget ms", "ratio");
+    std::printf("%9s %5s  %-6s %9s %9s %6s %8s %9s %10s %7s %7s\n", "nodes", "wide", "attr.",
+                "texts ms", "build ms", "ratio", "ns/node", "B/node", "widget ms", "ratio",
+                "alone");
     std::vector<modGlobal> applications;
     for (const qint32 members : sizes)
         for (const qint32 fanOut : fanOuts) {

@@ -17,6 +17,8 @@ void openViewer(Journey &journey, const QString &dimension)
         Hands::choose(window, "cboSetDimension", dimension);
         Hands::click(window, "cmdMetadataViewer");
     });
+    journey.on(viewer, u"Make room for the attributes"_s,
+               [](QWidget &window) { window.resize(1130, 560); });
 }
 
 void see(Journey &journey, const QString &expectedTotals, const QString &what,

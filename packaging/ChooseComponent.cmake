@@ -1,0 +1,10 @@
+# Read by cpack for each kind of package: each holds its own component.
+if(CPACK_GENERATOR STREQUAL "DEB")
+    set(component debian)
+    set(CPACK_PACKAGING_INSTALL_PREFIX "/usr")
+else()
+    set(component portable)
+    set(CPACK_PACKAGE_FILE_NAME "tessaly-${CPACK_PACKAGE_VERSION}-${CPACK_SYSTEM_NAME}-${CPACK_DEBIAN_ARCHITECTURE}")
+endif()
+list(GET CPACK_INSTALL_CMAKE_PROJECTS 0 build_folder)
+set(CPACK_INSTALL_CMAKE_PROJECTS "${build_folder};Tessaly;${component};/")

@@ -256,17 +256,29 @@ private Q_SLOTS:
         }
     }
 
+    void everyFailureWhileOpeningGoesItsWay_data()
+    {
+        QTest::addColumn<FakeKind>("kind");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("accounts") << FakeKind::Account << u"ACCOUNT"_s;
+        QTest::newRow("entities, with the filters' lists") << FakeKind::Entity << u"ENTITY"_s;
+    }
     void everyFailureWhileOpeningGoesItsWay()
     {
-        openAccounts();
+        QFETCH(FakeKind, kind);
+        QFETCH(QString, name);
+        if (kind == FakeKind::Account)
+            openAccounts();
+        else
+            openEntities();
         mWindow.reset();
         calls().clear();
-        open(FakeKind::Account, u"ACCOUNT"_s);
+        open(kind, name);
         const qsizetype operations = calls().made().size();
         QVERIFY(operations > 50);
         mWindow.reset();
         for (int call = 1; call <= operations; ++call) {
-            choose(FakeKind::Account, u"ACCOUNT"_s);
+            choose(kind, name);
             calls().fail({}, RuntimeError(70), call);
             QVERIFY_THROWS_EXCEPTION(RuntimeError, frmMetadataViewer(mServices->services, mGlobal));
             QVERIFY(!QGuiApplication::overrideCursor());
@@ -481,6 +493,16 @@ private Q_SLOTS:
         QVERIFY(!menu()->isVisible());
     }
 
+    void theRightButtonBesideTheRowsSelectsNothingAndOpensNoMenu()
+    {
+        openAccounts();
+        QVERIFY(tree()->selectionModel()->hasSelection());
+        QTest::mouseClick(tree()->viewport(), Qt::RightButton, {},
+                          QPoint(5, tree()->viewport()->height() - 5));
+        QVERIFY(!tree()->selectionModel()->hasSelection());
+        QVERIFY(!menu()->isVisible());
+    }
+
     void aNodeWithEmptyTextOpensNoMenu()
     {
         openAccounts();
@@ -590,6 +612,16 @@ private Q_SLOTS:
         QVERIFY(printed(tree()).contains(u"DecPlaces="_s));
     }
 
+    void loadingTheTreeCountsTheTopMembersLevelsFromOneAgain()
+    {
+        openAccounts();
+        setTopMember({0});
+        click("chk_ExpAttribs");
+        QCOMPARE(title(), u"4 Total Members from Top Member of Net - 3 levels"_s);
+        mWindow->SetTitles();
+        QCOMPARE(title(), u"4 Total Members from Top Member of Net - 1 levels"_s);
+    }
+
     void setAsTopMemberWithNothingSelectedDoesNothing()
     {
         openAccounts();
@@ -679,6 +711,16 @@ private Q_SLOTS:
         QCOMPARE(find<QComboBox>("cboEntityCurrencyFilter")->count(), 3);
     }
 
+    void aSharedEntityIsListedOnce()
+    {
+        application().entity().setMembers(u"Group\n  US01\nRegion\n  US01"_s);
+        open(FakeKind::Entity, u"ENTITY"_s);
+        QCOMPARE(title(), u"5 Total Members - 2 levels"_s);
+        click("optEntityFilterSwitch_0");
+        QCOMPARE(tree()->model()->rowCount(), 3);
+        QCOMPARE(title(), u"3 Total Members - 1 levels"_s);
+    }
+
     void withAttributesHiddenAPassingEntityShowsLabelAndDescription()
     {
         openEntities();
@@ -735,6 +777,17 @@ private Q_SLOTS:
         QVERIFY(!find<QPushButton>("cmdRerunEntityFilters")->isEnabled());
         QCOMPARE(printed(tree()), before);
         QCOMPARE(find<QComboBox>("cboEntityCurrencyFilter")->count(), 6);
+    }
+
+    void theTitleKeepsTheListsCountUntilATopMemberIsSetOrRemoved()
+    {
+        openEntities();
+        click("optEntityFilterSwitch_0");
+        click("optEntityFilterSwitch_1");
+        QCOMPARE(title(), u"4 Total Members - 1 levels"_s);
+        setTopMember({0});
+        click("cmdRemoveTopMember");
+        QCOMPARE(title(), u"5 Total Members - 2 levels"_s);
     }
 
     void expandedAttributesWithFiltersOnRebuildTheList()

@@ -52,7 +52,7 @@ section "Saving a long text" \
     "The same text written with one call and with the program's safe writing, each made to reach the disk. The goal: at most 2." \
     "$programs/save_text"
 section "The member tree" \
-    "Building and using the metadata viewer's tree, beside a tree of one item object a node whose parents are found by searching backwards." \
+    "Building and using the metadata viewer's tree of accounts, whose parents have 8 or 50 children on average: beside a pass that only makes the node texts, and beside a tree of one item object a node whose parents are found by searching backwards. The goals: at most 2 such passes; at least 5 times faster than the items at 10,000 nodes and 20 times at 100,000; time a node growing by at most a half; at most 64 bytes a node over its text, counted here as two bytes a character, though most texts are kept in one; Expand All in half of the build. Both trees read the same texts from the client, most of the time that ours takes; \"alone\" compares what either takes beyond that. Where parents are narrow the backward search ends soon and the texts weigh more: there the goal of 20 is not reached." \
     "$programs/viewer_tree"
 section "The analyses" \
     "The application information's analyses in linear time, beside the same analyses comparing every pair." \

@@ -1,7 +1,4 @@
 #include "BuilderWindow.h"
-#include "shell/frmDeepTreeView.h"
-
-#include <QScrollBar>
 
 using namespace Qt::StringLiterals;
 
@@ -21,15 +18,6 @@ private:
     }
     QStringList newList() const { return mBuilder->rows("lstMemberList"); }
     QModelIndex node(std::initializer_list<int> rows) const { return mBuilder->node(rows); }
-
-    /// A dimension of so many members below one.
-    void openLarge(int members)
-    {
-        mBuilder = std::make_unique<BuilderWindow>(u"Top"_s);
-        for (int i = 1; i < members; ++i)
-            mBuilder->account().members().add(0, u"M%1|Member %1"_s.arg(i));
-        mBuilder->open();
-    }
 
 private Q_SLOTS:
     void init() { open(u"A|Alpha\n  S|Shared\n    X\n  Y\nB|Beta\n  S"_s); }
@@ -231,61 +219,6 @@ private Q_SLOTS:
         mBuilder->click("cmdListSelectAll");
         mBuilder->click("cmdListSelected");
         QCOMPARE(mBuilder->fake.hfm.calls().made(), QStringList());
-    }
-
-    // Large dimensions.
-
-    void everyMemberOfTheLargestDimensionIsCheckedSelectedAndInserted()
-    {
-        openLarge(32'767);
-        mBuilder->click("cmdTreeViewCheckAll");
-        mBuilder->click("cmdTreeViewChecked");
-        QCOMPARE(newList().size(), 32'767);
-        mBuilder->click("cmdListSelectAll");
-        mBuilder->click("cmdListSelected");
-        QCOMPARE(newList().size(), 2 * 32'767);
-        QCOMPARE(newList().constLast(), u"M32766"_s);
-        QVERIFY(mBuilder->fake.prompts.asked.isEmpty());
-    }
-
-    void aChainAsDeepAsThereCanBeIsOpenedAsDeepAsATreeIs()
-    {
-        mBuilder = std::make_unique<BuilderWindow>(u"Top"_s);
-        hfm::MemberId parent = 0;
-        for (int i = 1; i < 32'767; ++i)
-            parent = mBuilder->account().members().add(parent, QString::number(i));
-        mBuilder->open();
-        mBuilder->tree()->setCurrentIndex(node({0}));
-        mBuilder->key("trvMembers", Qt::Key_Asterisk);
-        mBuilder->click("cmdTreeViewCheckAll");
-        mBuilder->click("cmdTreeViewChecked");
-        QCOMPARE(newList().size(), 32'767);
-    }
-
-    void insertKeepsTheScrollPositions()
-    {
-        openLarge(2000);
-        mBuilder->tree()->expandAll();
-        mBuilder->click("cmdListSelectAll");
-        mBuilder->click("cmdListSelected");
-        mBuilder->click("cmdListDeselectAll");
-        mBuilder->select("lstMetadata", 3);
-        mBuilder->check(node({0, 2}));
-        const QList<QScrollBar *> bars = {mBuilder->tree()->verticalScrollBar(),
-                                          mBuilder->list("lstMetadata")->verticalScrollBar(),
-                                          mBuilder->list("lstMemberList")->verticalScrollBar()};
-        QList<int> places;
-        for (QScrollBar *bar : bars) {
-            QVERIFY(bar->maximum() > 0);
-            bar->setValue(bar->maximum() / 2);
-            places.append(bar->value());
-        }
-        mBuilder->click("cmdListSelected");
-        mBuilder->click("cmdTreeViewChecked");
-        QCOMPARE(newList().size(), 2002);
-        mBuilder->window->grab();
-        for (qsizetype i = 0; i < bars.size(); ++i)
-            QCOMPARE(bars[i]->value(), places[i]);
     }
 };
 

@@ -134,10 +134,10 @@ QWidget *frmMemberListBuilderControls::listViewerPage(ErrorTrap &trap)
     lblDimensionLists = makeLabel(members, "lblDimensionLists", u"Account Lists:"_s);
     cboMemberLists = makeList(lblDimensionLists, "cboMemberLists");
     lblMembersInList = makeLabel(members, "lblMembersInList", {});
-    // A list's name may be longer than the column is wide.
+    // A long name goes over several lines, and never widens the window.
     lblMembersInList->setWordWrap(true);
+    lblMembersInList->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     lstMembersInList = makeListBox(members, "lstMembersInList", u"Members in List"_s);
-    lstMembersInList->setSelectionMode(QAbstractItemView::ExtendedSelection);
     QLabel *denote = makeLabel(members, "lblDenote", u"** Denotes Parent Member"_s);
     auto *membersLayout = new QVBoxLayout(members);
     membersLayout->addWidget(lblDimensionLists);

@@ -1,30 +1,7 @@
 #include "OpenWindow.h"
+#include "support/CursorLog.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// The mouse pointers that a window has shown, in order.
-class CursorLog final : public QObject
-{
-public:
-    explicit CursorLog(QWidget *window) : mWindow(window) { window->installEventFilter(this); }
-
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        const Qt::CursorShape shape = mWindow->cursor().shape();
-        if (event->type() == QEvent::CursorChange && (shapes.isEmpty() || shapes.last() != shape))
-            shapes.append(shape);
-        return false;
-    }
-
-    QList<Qt::CursorShape> shapes;
-
-private:
-    QWidget *mWindow;
-};
-
-} // namespace
 
 /// The four tabs that analyse a dimension.
 class tst_frmAnalyses : public QObject

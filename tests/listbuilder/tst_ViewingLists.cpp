@@ -1,5 +1,6 @@
 #include "BuilderWindow.h"
 #include "shell/frmLargeText.h"
+#include "support/CursorLog.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -166,6 +167,13 @@ private Q_SLOTS:
                  u"Run-time error '1234':\r\n\r\nLost."_s);
         QCOMPARE(mBuilder->fake.program.endCodes, QList<int>{1});
         QVERIFY(mBuilder->window->cursor().shape() != Qt::WaitCursor);
+    }
+
+    void theHourglassShowsWhileAListIsRead()
+    {
+        const CursorLog cursors(mBuilder->window);
+        choose(u"Sales"_s);
+        QCOMPARE(cursors.shapes, QList<Qt::CursorShape>({Qt::WaitCursor, Qt::ArrowCursor}));
     }
 
     void viewingListsChangesNothingInTheBuilder()

@@ -153,6 +153,8 @@ private Q_SLOTS:
         QCOMPARE(control<QWidget>("txtMemberListSyntax")->property("text").toString(), QString());
     }
 
+    void itOpensWithTheKeyboardInTheTree() { QVERIFY(mBuilder->tree()->hasFocus()); }
+
     void theSixPickingButtonsAreOnAndGenerateIsOff()
     {
         for (const char *name : pickingButtons)
@@ -384,6 +386,22 @@ private Q_SLOTS:
     {
         QVERIFY(mWindow->width() <= 1024);
         QVERIFY(mWindow->height() <= 768 - 60); // a title bar and a task bar
+    }
+
+    void longNamesDoNotWidenIt()
+    {
+        const QString longName(300, u'W');
+        mBuilder->account().addUserList(longName, {u"A"_s});
+        mBuilder->global.gApplicationName = longName;
+        openAnew();
+        showViewer();
+        auto *lists = control<QComboBox>("cboMemberLists");
+        lists->setCurrentText(longName);
+        Q_EMIT lists->activated(lists->currentIndex());
+        const auto *caption = control<QLabel>("lblMembersInList");
+        QVERIFY(caption->text().contains(longName));
+        QVERIFY(caption->wordWrap());
+        QVERIFY(mWindow->minimumSizeHint().width() <= 1024);
     }
 
     // Leaving.

@@ -26,4 +26,6 @@ install(CODE "
     set(plugin_files \"${plugin_files}\")
     " COMPONENT portable EXCLUDE_FROM_ALL)
 install(SCRIPT CopyLibraries.cmake COMPONENT portable EXCLUDE_FROM_ALL)
+# The old kind of search path holds for what the libraries themselves need, too.
 set_target_properties(tessaly PROPERTIES INSTALL_RPATH "$ORIGIN/lib")
+target_link_options(tessaly PRIVATE -Wl,--disable-new-dtags)

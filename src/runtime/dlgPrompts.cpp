@@ -82,7 +82,12 @@ Answer dlgPrompts::ask(const Prompt &prompt)
     box->setStandardButtons(buttons);
     box->setDefaultButton(first);
     box->setEscapeButton(last);
+    const bool isUnderHourglass = QGuiApplication::overrideCursor();
+    if (isUnderHourglass)
+        QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
     box->exec();
+    if (isUnderHourglass)
+        QGuiApplication::restoreOverrideCursor();
 
     // No button was clicked when the program ended under the open box.
     const bool chosen = box && box->clickedButton();

@@ -1,13 +1,24 @@
 #pragma once
 
+#include <QGuiApplication>
 #include <QWidget>
 
-/// The hourglass as a window's mouse pointer, until the end of its scope.
+/// The hourglass as the mouse pointer until the end of its scope: the window's own, and over
+/// everything the program shows, text boxes with pointers of their own included. A message box
+/// that is asked meanwhile has the arrow.
 class frmHourglass
 {
 public:
-    explicit frmHourglass(QWidget *window) : mWindow(window) { window->setCursor(Qt::WaitCursor); }
-    ~frmHourglass() { mWindow->unsetCursor(); }
+    explicit frmHourglass(QWidget *window) : mWindow(window)
+    {
+        mWindow->setCursor(Qt::WaitCursor);
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    }
+    ~frmHourglass()
+    {
+        QGuiApplication::restoreOverrideCursor();
+        mWindow->unsetCursor();
+    }
     Q_DISABLE_COPY_MOVE(frmHourglass)
 
 private:

@@ -74,6 +74,16 @@ public:
         QTest::keyClick(list->view(), Qt::Key_Return);
         list->hidePopup();
     }
+    void clickRow(const char *list, int row)
+    {
+        auto *view = control<QListView>(list);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, middleOf(list, row));
+    }
+    QPoint middleOf(const char *list, int row) const
+    {
+        const auto *view = control<QListView>(list);
+        return view->visualRect(view->model()->index(row, 0)).center();
+    }
     void type(const char *name, const QString &text)
     {
         box(name)->setFocus();

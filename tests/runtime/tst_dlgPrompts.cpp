@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
+#include <QScopeGuard>
 #include <QTest>
 #include <QTimer>
 #include <QWidget>
@@ -187,6 +188,25 @@ private Q_SLOTS:
         askAnd({{}, QStringLiteral("text")}, [&](QMessageBox &box) { owner = box.parentWidget(); });
         QCOMPARE(owner, &window);
         QVERIFY(window.findChildren<QMessageBox *>().isEmpty());
+    }
+
+    void aBoxUnderAnHourglassHasTheArrow()
+    {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        const auto back = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
+        Qt::CursorShape shape = Qt::BlankCursor;
+        askAnd({{}, QStringLiteral("text")},
+               [&](QMessageBox &) { shape = QGuiApplication::overrideCursor()->shape(); });
+        QCOMPARE(shape, Qt::ArrowCursor);
+        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    }
+
+    void aBoxWithoutAnHourglassLeavesEachControlItsOwnPointer()
+    {
+        bool isOverridden = true;
+        askAnd({{}, QStringLiteral("text")},
+               [&](QMessageBox &) { isOverridden = QGuiApplication::overrideCursor(); });
+        QVERIFY(!isOverridden);
     }
 
     void aBoxWhoseWindowGoesIsAnsweredAsAClosedOne()

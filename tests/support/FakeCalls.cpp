@@ -23,6 +23,8 @@ void FakeCalls::fail(QLatin1StringView operation, const RuntimeError &error, int
 void FakeCalls::enter(QLatin1StringView operation)
 {
     mMade.append(operation);
+    if (whileCalling)
+        whileCalling();
     std::optional<RuntimeError> due;
     for (Fault &fault : mFaults)
         if ((fault.operation.isEmpty() || fault.operation == operation) && --fault.callsLeft == 0)

@@ -6,10 +6,14 @@
 #include <QList>
 #include <QStringList>
 
+#include <functional>
+
 /// What was asked of the fake HFM client, and which calls are to fail.
 class FakeCalls
 {
 public:
+    std::function<void()> whileCalling; ///< runs within every call, where it is set; may throw
+
     /// The operations called since the start or the last clear(), in order, by their names in
     /// hfm/, such as "EnumChildMembers". Making one of the first objects counts too
     /// ("createClient").

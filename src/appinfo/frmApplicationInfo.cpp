@@ -3,7 +3,6 @@
 #include "appinfo/LoadError.h"
 #include "appinfo/MemberLists.h"
 
-#include <QGuiApplication>
 #include <QMenu>
 #include <QStatusBar>
 
@@ -80,7 +79,7 @@ void frmApplicationInfo::connectAnalyses()
     trap.connect(mDuplicates.cboParents, &QComboBox::activated, this,
                  [this] { cboParents_Click(); });
     trap.connect(mDuplicates.cboParents->lineEdit(), &QLineEdit::returnPressed, this, [this] {
-        if (!mDuplicates.cboParents->currentText().isEmpty())
+        if (TabControls::chooseTyped(mDuplicates.cboParents))
             cboParents_Click();
     });
     trap.connect(mCompare.cmdCompare, &QPushButton::clicked, this, [this] { cmdCompare_Click(); });
@@ -110,19 +109,10 @@ void frmApplicationInfo::connectOptions(const QList<QRadioButton *> &options, in
                                [this, click, index = first + i] { (this->*click)(index); });
 }
 
-void frmApplicationInfo::connectChoice(QListView *list, Click click)
+void frmApplicationInfo::connectChoice(frmChoiceList *list, Click click)
 {
-    // An entry is chosen by a click, on the chosen one too, and by the keys that select it. A
-    // click selects before it is one, and must not count twice.
-    mServices.trap.connect(
-        list, &QListView::clicked, this,
-        [this, click](const QModelIndex &entry) { (this->*click)(entry.data().toString()); });
-    mServices.trap.connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-                           [this, click](const QItemSelection &selected, const QItemSelection &) {
-                               if (!selected.isEmpty() &&
-                                   QGuiApplication::mouseButtons() == Qt::NoButton)
-                                   (this->*click)(selected.indexes().first().data().toString());
-                           });
+    mServices.trap.connect(list, &frmChoiceList::chosen, this,
+                           [this, click](const QString &entry) { (this->*click)(entry); });
 }
 
 void frmApplicationInfo::Form_Load()

@@ -33,7 +33,7 @@ private:
     void connectSecurity();
     void connectOptions(const QList<QRadioButton *> &options, int first,
                         void (frmApplicationInfo::*click)(int));
-    void connectChoice(QListView *list, Click click);
+    void connectChoice(frmChoiceList *list, Click click);
 
     void Form_Load();
     void load();

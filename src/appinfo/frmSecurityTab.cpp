@@ -9,9 +9,10 @@ using namespace TabControls;
 
 namespace {
 
-QListView *makeCaptionedList(QLabel *label, const char *name, const QString &accessibleName)
+frmChoiceList *makeCaptionedList(QLabel *label, const char *name, const QString &accessibleName)
 {
-    QListView *list = makeListBox(label->parentWidget(), name, accessibleName);
+    auto *list = new frmChoiceList(label->parentWidget());
+    setUpListBox(list, name, accessibleName);
     label->setBuddy(list);
     return list;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "appinfo/frmChoiceList.h"
 #include "appinfo/SecurityAccess.h"
 #include "shell/frmTabControls.h"
 
@@ -12,9 +13,9 @@ struct frmSecurityTab
     void show(const SecurityAccess::Columns &columns);
     void clear() { show({}); }
 
-    QListView *lstUsers;
-    QListView *lstRoles;
-    QListView *lstSecurityClasses;
+    frmChoiceList *lstUsers;
+    frmChoiceList *lstRoles;
+    frmChoiceList *lstSecurityClasses;
     LargeTextView *txtTemp;
     LargeTextView *txtTemp2;
     QListView *lstTemp; ///< hidden, as the other one: their lines are those of the text boxes

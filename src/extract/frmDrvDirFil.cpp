@@ -6,6 +6,7 @@
 #include "extract/FolderModel.h"
 #include "extract/SaveRules.h"
 #include "runtime/FileWriter.h"
+#include "shell/frmComboWheel.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -106,6 +107,7 @@ void frmDrvDirFil::makeControls()
         return control;
     };
     mDriveBox = prepare(new QComboBox, u"DriveBox"_s, u"Drive"_s);
+    new frmComboWheel(mDriveBox);
     mDriveBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     mDriveBox->setMinimumContentsLength(16);
     for (const QString &drive : mDrives)

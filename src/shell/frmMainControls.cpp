@@ -1,6 +1,7 @@
 #include "shell/frmMainControls.h"
 
 #include "shell/Dimensions.h"
+#include "shell/frmComboWheel.h"
 
 #include <QGridLayout>
 #include <QLineEdit>
@@ -46,6 +47,7 @@ QComboBox *makeList(QLabel *label, const char *name)
     list->setObjectName(QLatin1StringView(name));
     list->setAccessibleName(label->text().remove(u':'));
     label->setBuddy(list);
+    new frmComboWheel(list);
     return list;
 }
 

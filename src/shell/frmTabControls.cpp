@@ -1,5 +1,6 @@
 #include "shell/frmTabControls.h"
 
+#include "shell/frmComboWheel.h"
 #include "shell/frmLargeText.h"
 
 #include <QApplication>
@@ -87,6 +88,7 @@ QComboBox *TabControls::makeList(QLabel *label, const char *name)
     list->setObjectName(QLatin1StringView(name));
     list->setAccessibleName(spoken(label->text()));
     label->setBuddy(list);
+    new frmComboWheel(list);
     list->setStyle(ShortListStyle::shared());
     list->setMaxVisibleItems(mostShownEntries);
     // Neither the box nor its list is sized by a look at every entry.
@@ -111,6 +113,14 @@ QComboBox *TabControls::makeTypedList(QLabel *label, const char *name)
     return list;
 }
 
+bool TabControls::chooseTyped(QComboBox *list)
+{
+    const int entry = list->findText(list->currentText(), Qt::MatchFixedString);
+    if (entry >= 0)
+        list->setCurrentIndex(entry);
+    return entry >= 0;
+}
+
 void TabControls::setEntries(QComboBox *list, const QStringList &entries, int current)
 {
     static_cast<QStringListModel *>(list->model())->setStringList(entries);
@@ -121,13 +131,18 @@ QListView *TabControls::makeListBox(QWidget *parent, const char *name,
                                     const QString &accessibleName)
 {
     auto *list = new QListView(parent);
+    setUpListBox(list, name, accessibleName);
+    return list;
+}
+
+void TabControls::setUpListBox(QListView *list, const char *name, const QString &accessibleName)
+{
     list->setObjectName(QLatin1StringView(name));
     list->setAccessibleName(accessibleName);
     list->setModel(new QStringListModel(list));
     list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     list->setUniformItemSizes(true);
     list->setItemDelegate(new EqualRows(list));
-    return list;
 }
 
 void TabControls::setLines(QAbstractItemView *list, const QStringList &lines)

@@ -16,11 +16,16 @@ namespace TabControls {
 
 QLabel *makeLabel(QWidget *parent, const char *name, const QString &text);
 
-/// A box to choose an entry from, with none chosen. It opens at once however many entries it holds.
+/// A box to choose an entry from, with none chosen. It opens at once however many entries it holds,
+/// and takes the mouse wheel only while it has the focus.
 QComboBox *makeList(QLabel *label, const char *name);
 /// Such a box whose text can be typed too. Typing inserts nothing, completes nothing and chooses
 /// nothing but with Enter, which the box leaves to its line edit's `returnPressed`.
 QComboBox *makeTypedList(QLabel *label, const char *name);
+
+/// Chooses the entry whose text stands in a typed list, in whatever letter case. False where it is
+/// no entry's; then nothing is chosen.
+bool chooseTyped(QComboBox *list);
 
 /// Replaces the entries and chooses the one at `current`, or none where that is -1; no choice of
 /// the user's.
@@ -28,6 +33,8 @@ void setEntries(QComboBox *list, const QStringList &entries, int current);
 
 /// A list of texts over a QStringListModel of its own. It opens at once however many rows it holds.
 QListView *makeListBox(QWidget *parent, const char *name, const QString &accessibleName);
+/// Makes `list` such a list.
+void setUpListBox(QListView *list, const char *name, const QString &accessibleName);
 void setLines(QAbstractItemView *list, const QStringList &lines);
 
 /// Option buttons `name`_first, `name`_first+1, ...: one for each caption, none of them chosen.

@@ -1,5 +1,7 @@
 #include "viewer/frmMetadataViewerControls.h"
 
+#include "shell/frmComboWheel.h"
+
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
@@ -56,6 +58,7 @@ QComboBox *makeFilter(const QString &name, const QString &accessibleName)
     combo->setEditable(true);
     combo->setInsertPolicy(QComboBox::NoInsert);
     combo->setCompleter(nullptr);
+    new frmComboWheel(combo);
     // A list of a hundred thousand entries is to open at once.
     auto *list = new QListView;
     list->setUniformItemSizes(true);

@@ -1,4 +1,5 @@
 #include "OpenWindow.h"
+#include "support/Wheel.h"
 
 #include <QAction>
 #include <QGroupBox>
@@ -177,6 +178,33 @@ private Q_SLOTS:
             QVERIFY2(mOpen->box(typed)->isEditable(), typed);
         for (const char *chosen : {"cboAccountLists", "cboViewLists", "cboParentMembers"})
             QVERIFY2(!mOpen->box(chosen)->isEditable(), chosen);
+    }
+
+    void theWheelOverAListWithoutTheFocusChoosesNothing()
+    {
+        mOpen->dimension(FakeKind::Entity).setMembers(u"P\n  Q\n    A\n"_s);
+        mOpen->open(2);
+        mOpen->choose("cboEntityLists", u"[Base]"_s);
+        mOpen->tabs()->setCurrentIndex(3);
+        mOpen->click("optDimensionCompare_10");
+        const QList<QComboBox *> boxes = mOpen->window->findChildren<QComboBox *>();
+        int tried = 0;
+        for (QComboBox *box : boxes) {
+            mOpen->tabs()->setCurrentIndex(box->objectName() == u"cboParents"              ? 4
+                                           : box->objectName().startsWith(u"cboTopMember") ? 3
+                                                                                           : 2);
+            mOpen->tabs()->setFocus();
+            mOpen->calls().clear();
+            const int before = box->currentIndex();
+            QVERIFY2(box->isVisible() && before + 1 < box->count(), qPrintable(box->objectName()));
+            QVERIFY(!turnWheel(box->isEditable() ? static_cast<QWidget *>(box->lineEdit()) : box));
+            QCOMPARE(box->currentIndex(), before);
+            QCOMPARE(mOpen->calls().made(), QStringList());
+            QVERIFY(!box->hasFocus());
+            ++tried;
+        }
+        QCOMPARE(tried, 16);
+        QVERIFY(mOpen->isWell());
     }
 
     void theSpreadsheetButtonsAreOff()

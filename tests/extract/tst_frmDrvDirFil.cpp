@@ -1,6 +1,7 @@
 #include "extract/frmDrvDirFil.h"
 #include "support/FakeServices.h"
 #include "support/FileFaults.h"
+#include "support/Wheel.h"
 
 #include <QAccessible>
 #include <QComboBox>
@@ -212,6 +213,15 @@ private Q_SLOTS:
         const auto *box = control<QComboBox>("DriveBox");
         QCOMPARE(box->itemText(0), u"/"_s);
         QCOMPARE(box->itemText(1), mHome->path());
+    }
+
+    void theWheelOverTheDrivesWithoutTheFocusChoosesNone()
+    {
+        control<QWidget>("txtFileName")->setFocus();
+        control<QComboBox>("DriveBox")->setCurrentIndex(0);
+        QVERIFY(!turnWheel(control<QComboBox>("DriveBox")));
+        QCOMPARE(control<QComboBox>("DriveBox")->currentIndex(), 0);
+        QCOMPARE(mDialog->folder(), program());
     }
 
     void everyControlHasAnAccessibleName()

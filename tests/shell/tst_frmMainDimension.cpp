@@ -1,4 +1,7 @@
 #include "MainWindow.h"
+#include "support/Wheel.h"
+
+#include <QLineEdit>
 
 /// Choosing a dimension and a language.
 class tst_frmMainDimension : public QObject
@@ -72,6 +75,19 @@ private Q_SLOTS:
         QTest::keyClick(mMain->dimensionList(), Qt::Key_Tab);
         QVERIFY(!mMain->dimensionList()->hasFocus());
         QCOMPARE(mMain->state.gDimensionName, latin1("YEAR"));
+    }
+
+    void theWheelOverAListWithoutTheFocusChoosesNothing()
+    {
+        QVERIFY(mMain->show());
+        mMain->chooseDimension("Year");
+        mMain->button("cmdExit")->setFocus();
+        QVERIFY(!turnWheel(mMain->dimensionList()->lineEdit()));
+        QCOMPARE(mMain->dimensionList()->currentText(), latin1("Year"));
+        QCOMPARE(mMain->state.gDimensionName, latin1("YEAR"));
+        QVERIFY(!turnWheel(mMain->languageList()));
+        QCOMPARE(mMain->state.gLanguageIndex, qint16(0));
+        QVERIFY(mMain->button("cmdExit")->hasFocus());
     }
 
     void nothingIsInsertedIntoTheList()

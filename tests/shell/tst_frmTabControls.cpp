@@ -1,7 +1,10 @@
 #include "shell/frmTabControls.h"
+#include "support/Wheel.h"
 
 #include <QAccessible>
+#include <QLineEdit>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -44,6 +47,38 @@ private Q_SLOTS:
         QCOMPARE(combo->currentText(), QString());
         TabControls::setEntries(combo, {u"C"_s}, 0);
         QCOMPARE(combo->currentText(), u"C"_s);
+    }
+
+    void theWheelChoosesNothingInABoxWithoutTheFocus_data()
+    {
+        QTest::addColumn<bool>("isTyped");
+        QTest::newRow("a plain list") << false;
+        QTest::newRow("a typed list") << true;
+    }
+
+    void theWheelChoosesNothingInABoxWithoutTheFocus()
+    {
+        QFETCH(bool, isTyped);
+        auto *other = TabControls::makeButton(mTab.get(), "cmdGo", u"Go"_s);
+        QLabel *label = TabControls::makeLabel(mTab.get(), "lblLists", u"Lists:"_s);
+        auto *combo = isTyped ? TabControls::makeTypedList(label, "cboLists")
+                              : TabControls::makeList(label, "cboLists");
+        TabControls::setEntries(combo, {u"A"_s, u"B"_s, u"C"_s}, 0);
+        const QSignalSpy chosen(combo, &QComboBox::activated);
+        mTab->show();
+        QVERIFY(QTest::qWaitForWindowActive(mTab.get()));
+        other->setFocus();
+
+        QWidget *const under = isTyped ? static_cast<QWidget *>(combo->lineEdit()) : combo;
+        QVERIFY(!turnWheel(under)); // what the box stands in would have scrolled
+        QCOMPARE(combo->currentText(), u"A"_s);
+        QCOMPARE(chosen.size(), 0);
+        QVERIFY(other->hasFocus());
+
+        combo->setFocus();
+        QVERIFY(turnWheel(under));
+        QCOMPARE(combo->currentText(), u"B"_s);
+        QCOMPARE(chosen.size(), 1);
     }
 
     void theLongestRowCanBeScrolledToWhereverItStands_data()

@@ -1,4 +1,5 @@
 #include "support/FakeServices.h"
+#include "support/Wheel.h"
 #include "viewer/frmMetadataViewer.h"
 
 #include <QAction>
@@ -753,6 +754,17 @@ private Q_SLOTS:
         click("optEntityFilterSwitch_0");
         QCOMPARE(tree()->model()->rowCount(), 0);
         QCOMPARE(title(), u"0 Total Members - 1 levels"_s);
+    }
+
+    void theWheelOverAFilterWithoutTheFocusChangesNothing()
+    {
+        openEntities();
+        find<QRadioButton>("optEntityFilterSwitch_1")->setFocus();
+        for (const char *name : {"cboEntityCurrencyFilter", "cboEntitySecurityClassFilter"}) {
+            QVERIFY(!turnWheel(find<QComboBox>(name)->lineEdit()));
+            QCOMPARE(find<QComboBox>(name)->currentText(), QString());
+        }
+        QVERIFY(find<QRadioButton>("optEntityFilterSwitch_1")->hasFocus());
     }
 
     void typingAFilterChangesNothingByItself()

@@ -4,50 +4,33 @@
 #include "runtime/Required.h"
 #include "shell/frmHourglass.h"
 #include "shell/frmLargeText.h"
+#include "shell/frmTabControls.h"
 
-#include <QButtonGroup>
-#include <QCheckBox>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QGridLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QScopedValueRollback>
-#include <QStatusBar>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
+using namespace TabControls;
 
 namespace {
 
 constexpr char tagProperty[] = "Tag";
 
-/// Option buttons `name`_0, `name`_1, ..., of which one is chosen.
-QButtonGroup *makeOptions(const QString &name, const QStringList &captions, QObject *parent)
-{
-    auto *group = new QButtonGroup(parent);
-    for (int i = 0; i < captions.size(); ++i) {
-        auto *button = new QRadioButton(captions[i]);
-        button->setObjectName(name + u'_' + QString::number(i));
-        group->addButton(button, i);
-    }
-    return group;
-}
-
-QLineEdit *makeLineEdit(const QString &name, const QString &text)
+QLineEdit *makeLineEdit(const char *name, const QString &text)
 {
     auto *edit = new QLineEdit(text);
-    edit->setObjectName(name);
+    edit->setObjectName(QLatin1StringView(name));
     return edit;
 }
 
-QLabel *makeCaption(const QString &name, const QString &text, QWidget *buddy)
+QLabel *makeCaption(const char *name, const QString &text, QWidget *buddy)
 {
-    auto *label = new QLabel(text);
-    label->setObjectName(name);
+    QLabel *label = makeLabel(nullptr, name, text);
     label->setBuddy(buddy);
     return label;
 }
@@ -92,35 +75,19 @@ void frmExtract::closeEvent(QCloseEvent *event)
 
 void frmExtract::makeControls()
 {
-    mDimension = new QLabel;
-    mDimension->setObjectName(u"lblDimension"_s);
-    mDimension->setTextFormat(Qt::PlainText);
-    QFont heading = mDimension->font();
-    heading.setBold(true);
-    mDimension->setFont(heading);
-    mUseIndicators = makeOptions(u"optUseIndicators"_s,
-                                 {u"&Use Indicators"_s, u"&Don't Use Indicators"_s}, this);
-    mParentIndicator = makeLineEdit(u"txtParentIndicator"_s, u"Dynamic"_s);
-    mBaseIndicator = makeLineEdit(u"txtBaseIndicator"_s, u"Store"_s);
-    mDelimeters = makeOptions(u"optDelimeter"_s, {u"C&omma"_s, u"&Tab"_s}, this);
+    mDimension = makeHeading(nullptr, "lblDimension");
+    mUseIndicators = makeOptionGroup(this, "optUseIndicators",
+                                     {u"&Use Indicators"_s, u"&Don't Use Indicators"_s});
+    mParentIndicator = makeLineEdit("txtParentIndicator", u"Dynamic"_s);
+    mBaseIndicator = makeLineEdit("txtBaseIndicator", u"Store"_s);
+    mDelimeters = makeOptionGroup(this, "optDelimeter", {u"C&omma"_s, u"&Tab"_s});
     mDelimeters->button(0)->setProperty(tagProperty, u"COMMA"_s);
     mDelimeters->button(1)->setProperty(tagProperty, u"TAB"_s);
-    mExtract = new QPushButton(u"Run &Extract"_s);
-    mExtract->setObjectName(u"cmdExtract"_s);
-    mText = new LargeTextView(mServices.trap);
-    mText->setObjectName(u"txtParentChild"_s);
-    mText->setAccessibleName(u"Extract"_s);
-    mShowHeaderRow = new QCheckBox(u"Show &Header Row"_s);
-    mShowHeaderRow->setObjectName(u"chkHeaderRow"_s);
-    mSave = new QPushButton(u"&Save"_s);
-    mSave->setObjectName(u"cmdSaveExtract"_s);
-
-    statusBar()->setObjectName(u"sbStatusBar"_s);
-    mApplicationPanel = new QLabel;
-    mApplicationPanel->setObjectName(u"sbStatusBar_1"_s);
-    mApplicationPanel->setTextFormat(Qt::PlainText);
-    mApplicationPanel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    statusBar()->addWidget(mApplicationPanel, 1);
+    mExtract = makeButton(nullptr, "cmdExtract", u"Run &Extract"_s);
+    mText = makeReport(mServices.trap, nullptr, "txtParentChild", u"Extract"_s);
+    mShowHeaderRow = makeCheckBox(nullptr, "chkHeaderRow", u"Show &Header Row"_s);
+    mSave = makeButton(nullptr, "cmdSaveExtract", u"&Save"_s);
+    mApplicationPanel = makeStatusPanel(statusBar());
 }
 
 void frmExtract::makeMenu()
@@ -140,16 +107,16 @@ void frmExtract::arrangeControls()
 {
     auto *options = new QGridLayout;
     options->addWidget(mUseIndicators->button(0), 0, 0);
-    options->addWidget(
-        makeCaption(u"lblParentIndicator"_s, u"Parent Indicator:"_s, mParentIndicator), 0, 1);
+    options->addWidget(makeCaption("lblParentIndicator", u"Parent Indicator:"_s, mParentIndicator),
+                       0, 1);
     options->addWidget(mParentIndicator, 0, 2);
     options->addWidget(mUseIndicators->button(1), 1, 0);
-    options->addWidget(makeCaption(u"lblChildIndicator"_s, u"Base Indicator:"_s, mBaseIndicator), 1,
+    options->addWidget(makeCaption("lblChildIndicator", u"Base Indicator:"_s, mBaseIndicator), 1,
                        1);
     options->addWidget(mBaseIndicator, 1, 2);
 
     auto *run = new QHBoxLayout;
-    run->addWidget(makeCaption(u"lblDelimeter"_s, u"Delimeter:"_s, mDelimeters->button(0)));
+    run->addWidget(makeCaption("lblDelimeter", u"Delimeter:"_s, mDelimeters->button(0)));
     run->addWidget(mDelimeters->button(0));
     run->addWidget(mDelimeters->button(1));
     run->addStretch();

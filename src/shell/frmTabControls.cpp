@@ -82,6 +82,24 @@ QLabel *TabControls::makeLabel(QWidget *parent, const char *name, const QString 
     return label;
 }
 
+QLabel *TabControls::makeHeading(QWidget *parent, const char *name)
+{
+    QLabel *label = makeLabel(parent, name, {});
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+    return label;
+}
+
+QLabel *TabControls::makeStatusPanel(QStatusBar *bar)
+{
+    bar->setObjectName(u"sbStatusBar"_s);
+    QLabel *panel = makeLabel(bar, "sbStatusBar_1", {});
+    panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    bar->addWidget(panel, 1);
+    return panel;
+}
+
 QComboBox *TabControls::makeList(QLabel *label, const char *name)
 {
     auto *list = new QComboBox(label->parentWidget());
@@ -158,10 +176,19 @@ QList<QRadioButton *> TabControls::makeOptions(QWidget *parent, const char *name
         auto *option = new QRadioButton(caption, parent);
         option->setObjectName(QLatin1StringView(name) + u'_' +
                               QString::number(first + options.size()));
-        option->setAccessibleName(caption);
+        option->setAccessibleName(spoken(caption));
         options.append(option);
     }
     return options;
+}
+
+QButtonGroup *TabControls::makeOptionGroup(QObject *owner, const char *name,
+                                           const QStringList &captions)
+{
+    auto *group = new QButtonGroup(owner);
+    for (QRadioButton *option : makeOptions(nullptr, name, 0, captions))
+        group->addButton(option, int(group->buttons().size()));
+    return group;
 }
 
 QPushButton *TabControls::makeButton(QWidget *parent, const char *name, const QString &caption)
@@ -170,6 +197,14 @@ QPushButton *TabControls::makeButton(QWidget *parent, const char *name, const QS
     button->setObjectName(QLatin1StringView(name));
     button->setAccessibleName(spoken(caption));
     return button;
+}
+
+QCheckBox *TabControls::makeCheckBox(QWidget *parent, const char *name, const QString &caption)
+{
+    auto *box = new QCheckBox(caption, parent);
+    box->setObjectName(QLatin1StringView(name));
+    box->setAccessibleName(spoken(caption));
+    return box;
 }
 
 LargeTextView *TabControls::makeReport(ErrorTrap &trap, QWidget *parent, const char *name,

@@ -1,72 +1,17 @@
 #include "viewer/frmMetadataViewerControls.h"
 
-#include "shell/frmComboWheel.h"
+#include "shell/frmTabControls.h"
 
-#include <QButtonGroup>
-#include <QCheckBox>
-#include <QComboBox>
 #include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
-#include <QListView>
 #include <QMainWindow>
 #include <QMenu>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QStatusBar>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace TabControls;
 
 namespace {
-
-template <typename Button>
-Button *makeButton(const QString &name, const QString &caption)
-{
-    auto *button = new Button(caption);
-    button->setObjectName(name);
-    return button;
-}
-
-/// Option buttons `name`_0, `name`_1, ..., of which one is chosen.
-QButtonGroup *makeOptions(const QString &name, const QStringList &captions, int chosen,
-                          QObject *parent)
-{
-    auto *group = new QButtonGroup(parent);
-    for (int i = 0; i < captions.size(); ++i)
-        group->addButton(makeButton<QRadioButton>(name + u'_' + QString::number(i), captions[i]),
-                         i);
-    group->button(chosen)->setChecked(true);
-    return group;
-}
-
-QLabel *makeLabel(const QString &name)
-{
-    auto *label = new QLabel;
-    label->setObjectName(name);
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
-
-/// A list that the user may type into as well. It adds and completes nothing: what stands in it is
-/// what the entities are compared with.
-QComboBox *makeFilter(const QString &name, const QString &accessibleName)
-{
-    auto *combo = new QComboBox;
-    combo->setObjectName(name);
-    combo->setAccessibleName(accessibleName);
-    combo->setEditable(true);
-    combo->setInsertPolicy(QComboBox::NoInsert);
-    combo->setCompleter(nullptr);
-    new frmComboWheel(combo);
-    // A list of a hundred thousand entries is to open at once.
-    auto *list = new QListView;
-    list->setUniformItemSizes(true);
-    combo->setView(list);
-    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    combo->setMinimumContentsLength(18);
-    return combo;
-}
 
 MemberTreeView *makeTree(const QString &name, const QString &accessibleName, ErrorTrap &trap,
                          MemberTreeModel *model)
@@ -77,37 +22,19 @@ MemberTreeView *makeTree(const QString &name, const QString &accessibleName, Err
     return tree;
 }
 
-QLabel *makeCaption(const QString &text, QWidget *buddy)
-{
-    auto *label = new QLabel(text);
-    label->setBuddy(buddy);
-    return label;
-}
-
 } // namespace
 
 ViewerControls::ViewerControls(QMainWindow *window, ErrorTrap &trap, MemberTreeModel *memberModel,
                                MemberTreeModel *topMemberModel)
 {
-    dimension = makeLabel(u"lblDimension"_s);
-    QFont bold = dimension->font();
-    bold.setBold(true);
-    dimension->setFont(bold);
-    totalMembers = makeLabel(u"lblTotalMembers"_s);
-    applicationPanel = makeLabel(u"sbStatusBar_1"_s);
+    dimension = makeHeading(nullptr, "lblDimension");
+    totalMembers = makeLabel(nullptr, "lblTotalMembers", {});
+    applicationPanel = makeStatusPanel(window->statusBar());
     showAttributes =
-        makeOptions(u"optShowAttributes"_s, {u"Show Attributes"_s, u"Hide Attributes"_s},
-                    ShowAttributes, window);
-    expandedAttributes =
-        makeButton<QCheckBox>(u"chk_ExpAttribs"_s, u"Display Expanded Attributes"_s);
-
-    entityFilters = new QGroupBox(u" Entity Filters "_s);
-    entityFilters->setObjectName(u"fraEntityFilters"_s);
-    entityFilterSwitch =
-        makeOptions(u"optEntityFilterSwitch"_s, {u"On"_s, u"Off"_s}, FiltersOff, window);
-    securityClassFilter = makeFilter(u"cboEntitySecurityClassFilter"_s, u"Security Class"_s);
-    currencyFilter = makeFilter(u"cboEntityCurrencyFilter"_s, u"Currency"_s);
-    rerunEntityFilters = makeButton<QPushButton>(u"cmdRerunEntityFilters"_s, u"Re-Run Filters"_s);
+        makeOptionGroup(window, "optShowAttributes", {u"Show Attributes"_s, u"Hide Attributes"_s});
+    showAttributes->button(ShowAttributes)->setChecked(true);
+    expandedAttributes = makeCheckBox(nullptr, "chk_ExpAttribs", u"Display Expanded Attributes"_s);
+    makeFilters(window);
 
     members = makeTree(u"trvMembers"_s, u"Members"_s, trap, memberModel);
     topMember = makeTree(u"trvTopMember"_s, u"Members from Top Member"_s, trap, topMemberModel);
@@ -115,10 +42,10 @@ ViewerControls::ViewerControls(QMainWindow *window, ErrorTrap &trap, MemberTreeM
     search = new QLineEdit;
     search->setObjectName(u"txtSearch"_s);
     search->setAccessibleName(u"Find"_s);
-    find = makeButton<QPushButton>(u"cmdFind"_s, u"&Find"_s);
-    expandAll = makeButton<QPushButton>(u"cmdExpandAll"_s, u"Expand All"_s);
-    removeTopMember = makeButton<QPushButton>(u"cmdRemoveTopMember"_s, u"Remove Top Member"_s);
-    sendToExcel = makeButton<QPushButton>(u"cmdSendToExcel"_s, u"Send to E&xcel -->"_s);
+    find = makeButton(nullptr, "cmdFind", u"&Find"_s);
+    expandAll = makeButton(nullptr, "cmdExpandAll", u"Expand All"_s);
+    removeTopMember = makeButton(nullptr, "cmdRemoveTopMember", u"Remove Top Member"_s);
+    sendToExcel = makeButton(nullptr, "cmdSendToExcel", u"Send to E&xcel -->"_s);
 
     rightClick = new QMenu(window);
     rightClick->setObjectName(u"mnuRightClick"_s);
@@ -129,9 +56,33 @@ ViewerControls::ViewerControls(QMainWindow *window, ErrorTrap &trap, MemberTreeM
     arrange(window);
 }
 
+void ViewerControls::makeFilters(QMainWindow *window)
+{
+    entityFilters = new QGroupBox(u" Entity Filters "_s);
+    entityFilters->setObjectName(u"fraEntityFilters"_s);
+    entityFilterSwitch = makeOptionGroup(window, "optEntityFilterSwitch", {u"On"_s, u"Off"_s});
+    entityFilterSwitch->button(FiltersOff)->setChecked(true);
+    QLabel *securityClass =
+        makeLabel(nullptr, "lblEntitySecurityClassFilter", u"Security Class:"_s);
+    securityClassFilter = makeTypedList(securityClass, "cboEntitySecurityClassFilter");
+    QLabel *currency = makeLabel(nullptr, "lblEntityCurrencyFilter", u"Currency:"_s);
+    currencyFilter = makeTypedList(currency, "cboEntityCurrencyFilter");
+    rerunEntityFilters = makeButton(nullptr, "cmdRerunEntityFilters", u"Re-Run Filters"_s);
+
+    auto *row = new QHBoxLayout;
+    row->addWidget(entityFilterSwitch->button(FiltersOn));
+    row->addWidget(entityFilterSwitch->button(FiltersOff));
+    row->addSpacing(12);
+    row->addWidget(securityClass);
+    row->addWidget(securityClassFilter, 1);
+    row->addWidget(currency);
+    row->addWidget(currencyFilter, 1);
+    row->addWidget(rerunEntityFilters);
+    entityFilters->setLayout(row);
+}
+
 void ViewerControls::arrange(QMainWindow *window)
 {
-    arrangeFilters();
     auto *layout = new QVBoxLayout;
     layout->addLayout(titles());
     layout->addLayout(attributes());
@@ -142,8 +93,6 @@ void ViewerControls::arrange(QMainWindow *window)
     auto *content = new QWidget;
     content->setLayout(layout);
     window->setCentralWidget(content);
-    window->statusBar()->setObjectName(u"sbStatusBar"_s);
-    window->statusBar()->addWidget(applicationPanel, 1);
     window->resize(940, 640);
 }
 
@@ -164,20 +113,6 @@ QLayout *ViewerControls::attributes()
     row->addWidget(expandedAttributes);
     row->addStretch();
     return row;
-}
-
-void ViewerControls::arrangeFilters()
-{
-    auto *row = new QHBoxLayout;
-    row->addWidget(entityFilterSwitch->button(0));
-    row->addWidget(entityFilterSwitch->button(1));
-    row->addSpacing(12);
-    row->addWidget(makeCaption(u"Security Class:"_s, securityClassFilter));
-    row->addWidget(securityClassFilter, 1);
-    row->addWidget(makeCaption(u"Currency:"_s, currencyFilter));
-    row->addWidget(currencyFilter, 1);
-    row->addWidget(rerunEntityFilters);
-    entityFilters->setLayout(row);
 }
 
 QLayout *ViewerControls::commands()

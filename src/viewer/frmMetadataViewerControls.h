@@ -49,9 +49,9 @@ struct ViewerControls
     QAction *normalTreeViewEntry;
 
 private:
+    void makeFilters(QMainWindow *window);
     void arrange(QMainWindow *window);
     QLayout *titles();
     QLayout *attributes();
-    void arrangeFilters();
     QLayout *commands();
 };

@@ -39,6 +39,47 @@ private Q_SLOTS:
         QCOMPARE(label->text(), u"<b>x</b>"_s);
     }
 
+    void aHeadingIsABoldLabel()
+    {
+        const auto *heading = TabControls::makeHeading(mTab.get(), "lblDimension");
+        QCOMPARE(heading->objectName(), u"lblDimension"_s);
+        QVERIFY(heading->font().bold());
+        QCOMPARE(heading->textFormat(), Qt::PlainText);
+    }
+
+    void aLongTextInTheStatusPanelDoesNotWidenTheBar()
+    {
+        QStatusBar bar;
+        QLabel *panel = TabControls::makeStatusPanel(&bar);
+        QCOMPARE(bar.objectName(), u"sbStatusBar"_s);
+        QCOMPARE(panel->objectName(), u"sbStatusBar_1"_s);
+        const int before = bar.minimumSizeHint().width();
+        panel->setText(QString(500, u'x'));
+        QCOMPARE(bar.minimumSizeHint().width(), before);
+    }
+
+    void optionsOfAGroupAreNumberedFromZeroWithNoneChosen()
+    {
+        const QButtonGroup *group =
+            TabControls::makeOptionGroup(mTab.get(), "optColour", {u"&Red"_s, u"&Blue"_s});
+        QCOMPARE(group->parent(), mTab.get());
+        QCOMPARE(group->buttons().size(), 2);
+        QCOMPARE(group->checkedId(), -1);
+        for (QAbstractButton *option : group->buttons())
+            option->setParent(mTab.get());
+        QCOMPARE(group->button(1)->objectName(), u"optColour_1"_s);
+        QCOMPARE(group->button(1)->text(), u"&Blue"_s);
+        QCOMPARE(group->button(1)->accessibleName(), u"Blue"_s);
+    }
+
+    void aCheckBoxStartsUnticked()
+    {
+        const auto *box = TabControls::makeCheckBox(mTab.get(), "chkAll", u"&All"_s);
+        QCOMPARE(box->objectName(), u"chkAll"_s);
+        QCOMPARE(box->accessibleName(), u"All"_s);
+        QVERIFY(!box->isChecked());
+    }
+
     void noEntryIsChosenUntilOneIs()
     {
         QLabel *label = TabControls::makeLabel(mTab.get(), "lblLists", u"Lists:"_s);

@@ -775,6 +775,10 @@ private Q_SLOTS:
         QCOMPARE(combo->currentText(), u"us"_s);
         QTest::keyClick(combo->lineEdit(), Qt::Key_Return);
         QCOMPARE(combo->currentText(), u"us"_s);
+        QTest::keyClicks(combo->lineEdit(), u"d"_s);
+        QTest::keyClick(combo->lineEdit(), Qt::Key_Return);
+        QTest::keyClick(combo->lineEdit(), Qt::Key_Tab);
+        QCOMPARE(combo->currentText(), u"usd"_s); // the entry is "USD"
         QCOMPARE(combo->count(), 3);
         QCOMPARE(printed(tree()).count(u'\n'), 4);
     }
@@ -830,7 +834,24 @@ private Q_SLOTS:
         mServices->program.endCodes.clear();
     }
 
-    // Accessibility.
+    // Keyboard and accessibility.
+
+    void theTabKeyGoesFromControlToControlAsTheyStand()
+    {
+        openEntities();
+        click("optEntityFilterSwitch_0");
+        find<QRadioButton>("optShowAttributes_0")->setFocus();
+        QStringList names;
+        for (int i = 0; i < 9; ++i) {
+            names.append(QApplication::focusWidget()->objectName());
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        QCOMPARE(names,
+                 QStringList({u"optShowAttributes_0"_s, u"chk_ExpAttribs"_s,
+                              u"optEntityFilterSwitch_0"_s, u"cboEntitySecurityClassFilter"_s,
+                              u"cboEntityCurrencyFilter"_s, u"cmdRerunEntityFilters"_s,
+                              u"trvMembers"_s, u"txtSearch"_s, u"cmdFind"_s}));
+    }
 
     void everyControlHasAnAccessibleName()
     {

@@ -20,7 +20,14 @@
 ///         EAST (shared)                     Q2
 ///     SPARE, without a node                   Mar
 ///
-/// and no scenarios. The entities and accounts of the file come first in their dimensions, in this
+/// and no scenarios. Its security:
+///
+///                                   [Default]       SC_GRP    SC_PL   roles
+///     CORP\jane                     -               4 all     -       Application Administrator
+///     Readers                       1 metadata      2 read    -       -
+///     Native Directory\jim@corp.com 3 promote       -         -       Load System
+///
+/// The entities and accounts of the file come first in their dimensions, in this
 /// order. The default parent of EAST is LEGAL, that of E2 is WEST. The attributes are those that
 /// AttributeContract compares.
 class ClientUnderTest
@@ -42,7 +49,6 @@ public:
     virtual std::shared_ptr<hfm::Session> openSession() = 0;
     /// A dimension without any member list; null where the client has none such.
     virtual std::shared_ptr<hfm::Dimension> dimensionWithoutLists() { return nullptr; }
-    /// Whether the application has the user-defined Entity list "Units" (E3, E1) and the security
-    /// that SecurityContract compares.
-    virtual bool hasListsAndSecurity() const = 0;
+    /// Whether the application has a member list file with the Entity list "Units" (E3, E1).
+    virtual bool hasUserLists() const { return true; }
 };

@@ -70,4 +70,24 @@ Q1;Feb
 Q2;Mar
 )";
 
+/// SC_PL is a class because members have it.
+inline constexpr char security[] = R"(!FILE_FORMAT=2.0
+!VERSION=11.12
+!USERS_AND_GROUPS
+jane@CORP
+Readers
+jim@corp.com@Native Directory
+!SECURITY_CLASSES
+[Default]
+SC_GRP
+!ROLE_ACCESS
+Application Administrator;jane@CORP
+Load System;jim@corp.com@Native Directory
+!SECURITY_CLASS_ACCESS
+[Default];Readers;Metadata;N
+[Default];jim@corp.com@Native Directory;Promote;Y
+SC_GRP;jane@CORP;All;N
+SC_GRP;Readers;Read;N
+)";
+
 } // namespace ContractFiles

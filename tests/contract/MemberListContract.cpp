@@ -166,7 +166,7 @@ void MemberListContract::listsOfEntitiesFollowTheTopMember()
 
 void MemberListContract::aUserDefinedListKeepsItsOrderWhateverTheTopMember()
 {
-    if (!mClient.hasListsAndSecurity())
+    if (!mClient.hasUserLists())
         QSKIP("This client does not read user-defined lists.");
     const auto entity = dimensionOf(*mClient.openSession(), u"Entity"_s);
     const QStringList units = {u"E3"_s, u"E1"_s};

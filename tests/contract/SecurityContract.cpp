@@ -40,57 +40,77 @@ void SecurityContract::namesAndIdsThatAreNotThereFail()
 void SecurityContract::accessToAClassIsToldForEveryone()
 {
     const auto security = mClient.openSession()->GetSecurity();
-    for (const hfm::ClassId id : security->EnumSecurityClasses().ids) {
-        const hfm::AccessList access = security->EnumClassAccess(id);
-        QCOMPARE(access.names.size(), access.codes.size());
-        for (const QString &name : access.names)
-            security->GetUserId(name);
-    }
+    const QStringList everyone = {u"CORP\\jane"_s, u"Readers"_s,
+                                  u"Native Directory\\jim@corp.com"_s};
+    const auto codes = [&](const QString &name) {
+        return security->EnumClassAccess(security->GetSecurityClassId(name)).codes;
+    };
+    for (const hfm::ClassId id : security->EnumSecurityClasses().ids)
+        QCOMPARE(security->EnumClassAccess(id).names, everyone);
+    QCOMPARE(codes(u"[Default]"_s), QList<qint32>({0, 1, 3}));
+    QCOMPARE(codes(u"sc_grp"_s), QList<qint32>({4, 2, 0}));
+    QCOMPARE(codes(u"SC_PL"_s), QList<qint32>({0, 0, 0}));
 }
 
 void SecurityContract::accessOfAUserIsToldForEveryClass()
 {
     const auto security = mClient.openSession()->GetSecurity();
-    const hfm::SecurityClasses classes = security->EnumSecurityClasses();
-    if (classes.ids.isEmpty())
-        QSKIP("This client does not read security.");
-    const hfm::AccessList everyone = security->EnumClassAccess(classes.ids.first());
-    for (qsizetype i = 0; i < everyone.names.size(); ++i) {
-        const hfm::AccessList access =
-            security->EnumUserClassAccess(security->GetUserId(everyone.names[i]));
-        QCOMPARE(access.names, classes.names);
-        QCOMPARE(access.codes.size(), access.names.size());
-        QCOMPARE(access.codes.first(), everyone.codes[i]);
-    }
+    const QStringList classes = {u"[Default]"_s, u"SC_GRP"_s, u"SC_PL"_s};
+    QCOMPARE(security->EnumSecurityClasses().names, classes);
+    const auto codes = [&](const QString &user) {
+        return security->EnumUserClassAccess(security->GetUserId(user)).codes;
+    };
+    for (const QString &user :
+         security->EnumClassAccess(security->EnumSecurityClasses().ids.first()).names)
+        QCOMPARE(security->EnumUserClassAccess(security->GetUserId(user)).names, classes);
+    QCOMPARE(codes(u"CORP\\jane"_s), QList<qint32>({0, 4, 0}));
+    QCOMPARE(codes(u"readers"_s), QList<qint32>({1, 2, 0}));
+    QCOMPARE(codes(u"Native Directory\\jim@corp.com"_s), QList<qint32>({3, 0, 0}));
 }
 
-void SecurityContract::rolesAreToldForEveryone()
+void SecurityContract::theUsersOfARoleAreToldForEveryone()
 {
-    if (!mClient.hasListsAndSecurity())
-        QSKIP("This client does not read security.");
     const auto security = mClient.openSession()->GetSecurity();
-    const hfm::FlaggedNames users =
-        security->EnumRoleUsers(security->GetRoleId(u"application administrator"_s));
-    QCOMPARE(users.names, QStringList({u"CORP\\jane"_s, u"Readers"_s}));
-    QCOMPARE(users.flags, QStringList({u"True"_s, u"False"_s}));
-    const hfm::FlaggedNames roles = security->EnumUserRoles(security->GetUserId(u"corp\\JANE"_s));
+    const auto usersOf = [&](const QString &role) {
+        return security->EnumRoleUsers(security->GetRoleId(role));
+    };
+    const hfm::FlaggedNames users = usersOf(u"application administrator"_s);
+    QCOMPARE(users.names,
+             QStringList({u"CORP\\jane"_s, u"Readers"_s, u"Native Directory\\jim@corp.com"_s}));
+    QCOMPARE(users.flags, QStringList({u"True"_s, u"False"_s, u"False"_s}));
+    QCOMPARE(usersOf(u"Load System"_s).names, users.names);
+    QCOMPARE(usersOf(u"Load System"_s).flags, QStringList({u"False"_s, u"False"_s, u"True"_s}));
+}
+
+void SecurityContract::theRolesOfAUserAreToldForEveryRole()
+{
+    const auto security = mClient.openSession()->GetSecurity();
+    const auto rolesOf = [&](const QString &user) {
+        return security->EnumUserRoles(security->GetUserId(user));
+    };
+    const hfm::FlaggedNames roles = rolesOf(u"corp\\JANE"_s);
     QCOMPARE(roles.names, QStringList({u"Application Administrator"_s, u"Load System"_s}));
     QCOMPARE(roles.flags, QStringList({u"True"_s, u"False"_s}));
+    QCOMPARE(rolesOf(u"Readers"_s).names, roles.names);
+    QCOMPARE(rolesOf(u"Readers"_s).flags, QStringList({u"False"_s, u"False"_s}));
 }
 
-void SecurityContract::theSecurityOfTheApplicationIsThere()
+void SecurityContract::everyNameThatIsListedIsFoundAgain()
 {
-    if (!mClient.hasListsAndSecurity())
-        QSKIP("This client does not read security.");
     const auto security = mClient.openSession()->GetSecurity();
-    QCOMPARE(security->EnumSecurityClasses().names,
-             QStringList({u"[Default]"_s, u"SC_GRP"_s, u"SC_PL"_s}));
-    const hfm::AccessList access =
-        security->EnumClassAccess(security->GetSecurityClassId(u"SC_GRP"_s));
-    QCOMPARE(access.names, QStringList({u"CORP\\jane"_s, u"Readers"_s}));
-    QCOMPARE(access.codes, QList<qint32>({4, 2}));
-    const hfm::AccessList classes =
-        security->EnumUserClassAccess(security->GetUserId(u"Readers"_s));
-    QCOMPARE(classes.names, QStringList({u"[Default]"_s, u"SC_GRP"_s, u"SC_PL"_s}));
-    QCOMPARE(classes.codes, QList<qint32>({0, 2, 0}));
+    QList<hfm::UserId> users;
+    for (const QString &user :
+         security->EnumClassAccess(security->EnumSecurityClasses().ids.first()).names) {
+        users.append(security->GetUserId(user));
+        QCOMPARE(security->GetUserId(user.toUpper()), users.last());
+        QCOMPARE(users.count(users.last()), 1);
+    }
+    QList<hfm::RoleId> roles;
+    for (const QString &role : security->EnumUserRoles(users.first()).names) {
+        roles.append(security->GetRoleId(role));
+        QCOMPARE(security->GetRoleId(role.toLower()), roles.last());
+        QCOMPARE(roles.count(roles.last()), 1);
+    }
+    QCOMPARE(users.size(), 3);
+    QCOMPARE(roles.size(), 2);
 }

@@ -17,8 +17,9 @@ private Q_SLOTS:
     void namesAndIdsThatAreNotThereFail();
     void accessToAClassIsToldForEveryone();
     void accessOfAUserIsToldForEveryClass();
-    void rolesAreToldForEveryone();
-    void theSecurityOfTheApplicationIsThere();
+    void theUsersOfARoleAreToldForEveryone();
+    void theRolesOfAUserAreToldForEveryRole();
+    void everyNameThatIsListedIsFoundAgain();
 
 private:
     ClientUnderTest &mClient;

@@ -16,8 +16,8 @@ void SessionContract::systemInformationNamesClusterAndApplication()
 void SessionContract::aMemberListFileThatIsNotThereHasThePresenceFlag0()
 {
     const hfm::MemberListFile file = mClient.openSession()->GetSystemInfo()->GetMemberListFile();
-    QCOMPARE(file.present != 0, mClient.hasListsAndSecurity());
-    QCOMPARE(file.content.isEmpty(), !mClient.hasListsAndSecurity());
+    QCOMPARE(file.present != 0, mClient.hasUserLists());
+    QCOMPARE(file.content.isEmpty(), !mClient.hasUserLists());
 }
 
 void SessionContract::languagesComeInTheOrderOfTheirIndexes()
@@ -54,7 +54,7 @@ void SessionContract::objectsStayValidAfterTheSessionIsGone()
     account.reset();
 
     QCOMPARE(system->GetApplicationName(), mClient.applicationName());
-    QCOMPARE(security->EnumSecurityClasses().ids.isEmpty(), !mClient.hasListsAndSecurity());
+    QCOMPARE(security->EnumSecurityClasses().ids.size(), 3);
     const hfm::MemberId east = entity->GetMemberId(u"EAST"_s);
     QCOMPARE(entity->GetMemberDescription(east, 0), u"East"_s);
     QVERIFY(!entities->GetEntityAllowAdjs(entity->GetMemberId(u"E1"_s)));

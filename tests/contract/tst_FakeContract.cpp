@@ -41,12 +41,16 @@ void fillSecurity(FakeSecurity &security)
 {
     for (const QString &name : {u"[Default]"_s, u"SC_GRP"_s, u"SC_PL"_s})
         security.addClass(name);
-    for (const QString &name : {u"CORP\\jane"_s, u"Readers"_s})
+    const QString jim = u"Native Directory\\jim@corp.com"_s;
+    for (const QString &name : {u"CORP\\jane"_s, u"Readers"_s, jim})
         security.addUser(name);
     for (const QString &name : {u"Application Administrator"_s, u"Load System"_s})
         security.addRole(name);
     security.setRole(u"CORP\\jane"_s, u"Application Administrator"_s);
+    security.setRole(jim, u"Load System"_s);
     security.setAccess(u"CORP\\jane"_s, u"SC_GRP"_s, 4);
+    security.setAccess(u"Readers"_s, u"[Default]"_s, 1);
+    security.setAccess(jim, u"[Default]"_s, 3);
     security.setAccess(u"Readers"_s, u"SC_GRP"_s, 2);
 }
 
@@ -106,7 +110,6 @@ public:
         dimension->clearLists();
         return dimension;
     }
-    bool hasListsAndSecurity() const override { return true; }
 
 private:
     FakeHfm mHfm;

@@ -50,6 +50,7 @@ public:
         QDir(mFolder.path()).mkdir(cluster);
         write(u"Contract.app"_s, ContractFiles::metadata);
         write(u"Contract.profile"_s, ContractFiles::profile);
+        write(u"Contract.sec"_s, ContractFiles::security);
         mApplication = mUser.choose(mFolder.filePath(cluster));
         if (!mApplication)
             qFatal("the application cannot be read");
@@ -65,7 +66,7 @@ public:
     {
         return std::make_shared<OfflineSession>(mApplication, clusterName());
     }
-    bool hasListsAndSecurity() const override { return false; }
+    bool hasUserLists() const override { return false; }
 
 private:
     void write(const QString &name, const char *text)

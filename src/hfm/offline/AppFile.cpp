@@ -21,7 +21,6 @@ enum class SectionKind {
     Methods,
     Settings,
     Languages,
-    SecurityClasses,
 };
 
 struct KnownSection
@@ -38,7 +37,6 @@ constexpr KnownSection knownSections[] = {
     {"CONSOLIDATION_METHODS", SectionKind::Methods, false},
     {"APPLICATION_SETTINGS", SectionKind::Settings, false},
     {"LANGUAGES", SectionKind::Languages, false},
-    {"SECURITY_CLASSES", SectionKind::SecurityClasses, false},
 };
 
 bool isOfProfile(DimensionKind kind)
@@ -153,16 +151,15 @@ private:
     {
         switch (mSource) {
         case SourceFile::Metadata:
-            return kind != SectionKind::SecurityClasses;
+            return true;
         case SourceFile::Profile:
             return kind == SectionKind::Languages || kind == SectionKind::Members ||
                    kind == SectionKind::Hierarchies;
-        case SourceFile::MemberLists: // a script, which has no sections
-            return false;
         case SourceFile::Security:
+        case SourceFile::MemberLists:
             break;
         }
-        return kind == SectionKind::SecurityClasses;
+        return false;
     }
 
     void makeRoom(SectionKind kind, DimensionKind dimension, const SectionHeader &header)
@@ -190,11 +187,9 @@ private:
         case SectionKind::Settings:
             return std::make_unique<SettingsSection>(mDraft);
         case SectionKind::Languages:
-            return std::make_unique<NameSection>(mDraft.listedLanguages);
-        case SectionKind::SecurityClasses:
             break;
         }
-        return std::make_unique<NameSection>(*mDraft.listedClasses);
+        return std::make_unique<NameSection>(mDraft.listedLanguages);
     }
 
     /// A custom dimension goes by its own name before the name that this program has for it.
@@ -256,13 +251,6 @@ void readProfileFile(QIODevice &device, ApplicationDraft &draft)
 {
     const Survey survey = surveyFile(device, draft.warnings.fileName(SourceFile::Profile));
     readSurveyed(device, SourceFile::Profile, survey, draft);
-}
-
-void readSecurityClasses(QIODevice &device, ApplicationDraft &draft)
-{
-    const Survey survey = surveyFile(device, draft.warnings.fileName(SourceFile::Security));
-    draft.listedClasses.emplace(*draft.arena);
-    readSurveyed(device, SourceFile::Security, survey, draft);
 }
 
 } // namespace hfm::offline

@@ -15,8 +15,4 @@ void readMetadataFile(QIODevice &device, ApplicationDraft &draft);
 /// the file is no text or cannot be read.
 void readProfileFile(QIODevice &device, ApplicationDraft &draft);
 
-/// Reads the names of the security classes from a security file. Fails with ReadingError where the
-/// file is no text or cannot be read.
-void readSecurityClasses(QIODevice &device, ApplicationDraft &draft);
-
 } // namespace hfm::offline

@@ -25,23 +25,6 @@ void setLanguages(Application &application, const ApplicationDraft &draft)
     }
 }
 
-/// Members keep a class that nobody defines, by its name. Without a security file nothing tells
-/// which classes there are, and so none is amiss.
-void warnOfUnknownClasses(const ApplicationDraft &draft)
-{
-    if (!draft.listedClasses)
-        return;
-    for (qint32 i = 0; i < draft.securityClasses.count(); ++i) {
-        const QByteArrayView name = draft.securityClasses.at(i);
-        const bool isListed = draft.listedClasses->find(name) >= 0;
-        if (!isListed && !sameLabel(name, "[Default]"))
-            draft.warnings.add(draft.securityClasses.place(i), [&] {
-                return QStringLiteral("The security class %1 is nowhere defined.")
-                    .arg(quoted(name));
-            });
-    }
-}
-
 } // namespace
 
 std::shared_ptr<const Application> finishApplication(ApplicationDraft &draft,
@@ -53,7 +36,6 @@ std::shared_ptr<const Application> finishApplication(ApplicationDraft &draft,
     Additions additions = addSystemMembers(draft, currentYear);
     const Labels &values = draft.dimension(DimensionKind::Value).labels();
     const MemberId noCurrency = values.find(noneLabel);
-    warnOfUnknownClasses(draft);
 
     std::vector<StoredDimension> dimensions;
     dimensions.reserve(allDimensionKinds.size());
@@ -69,7 +51,7 @@ std::shared_ptr<const Application> finishApplication(ApplicationDraft &draft,
                                                   std::move(dimensions),
                                                   {},
                                                   {},
-                                                  std::move(draft.securityClasses),
+                                                  storeSecurity(draft),
                                                   noCurrency,
                                                   std::move(additions.entityCurrencies),
                                                   std::move(additions.topMembers),

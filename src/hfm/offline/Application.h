@@ -1,8 +1,8 @@
 #pragma once
 
 #include "hfm/offline/Cluster.h"
-#include "hfm/offline/Names.h"
 #include "hfm/offline/StoredDimension.h"
+#include "hfm/offline/StoredSecurity.h"
 #include "hfm/offline/Warnings.h"
 
 #include <memory>
@@ -21,7 +21,7 @@ struct Application
     QList<QString> languages;
     /// By position in `languages`: the language's number in `descriptions`, or -1.
     std::vector<qint32> languageNumbers;
-    Names securityClasses; ///< those that members have, by class ID
+    StoredSecurity security;
 
     MemberId noCurrency; ///< the Value member of an entity that names no currency
     /// The Value members that EntityRecord::currency counts.

@@ -2,6 +2,7 @@
 
 #include "hfm/offline/DimensionDraft.h"
 #include "hfm/offline/Names.h"
+#include "hfm/offline/SecurityDraft.h"
 #include "hfm/offline/Warnings.h"
 
 #include <memory>
@@ -37,12 +38,12 @@ struct ApplicationDraft
     ListedNames currencies{*arena};
     ListedNames methods{*arena};
     Names entityCurrencies{*arena};
-    Names defaultCurrency{*arena};      ///< of the application settings; one or none
-    Names securityClasses{*arena};      ///< those that members have
-    std::optional<Names> listedClasses; ///< nothing without a security file
-    std::vector<Names> topMembers;      ///< by custom dimension: those that accounts name
-    Names languages{*arena};            ///< those that descriptions are in
-    Names listedLanguages{*arena};      ///< those of the profile
+    Names defaultCurrency{*arena};         ///< of the application settings; one or none
+    Names securityClasses{*arena};         ///< those that members have
+    std::vector<Names> topMembers;         ///< by custom dimension: those that accounts name
+    Names languages{*arena};               ///< those that descriptions are in
+    Names listedLanguages{*arena};         ///< those of the profile
+    std::optional<SecurityDraft> security; ///< nothing without a security file
     MemberListFile memberListFile;
 };
 

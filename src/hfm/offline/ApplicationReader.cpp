@@ -1,6 +1,7 @@
 #include "hfm/offline/AppFile.h"
 #include "hfm/offline/Application.h"
 #include "hfm/offline/ReadingError.h"
+#include "hfm/offline/SecurityFile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -37,6 +38,11 @@ void readOptional(const QString &path, SourceFile source, ApplicationDraft &draf
         read(file, draft);
     } catch (const ReadingError &error) {
         draft.warnings.add(Place(source, error.line()), [&] { return error.reason(); });
+    } catch (const RuntimeError &error) {
+        draft.warnings.add(Place(source, 0), [&] { return error.description(); });
+    } catch (const std::bad_alloc &) {
+        draft.warnings.add(Place(source, 0),
+                           [] { return RuntimeError::usualDescription(OutOfMemory); });
     }
 }
 
@@ -58,7 +64,7 @@ std::shared_ptr<const Application> readFiles(const ApplicationFiles &files, int 
     openFile(metadata);
     readMetadataFile(metadata, draft);
     readOptional(files.profile, SourceFile::Profile, draft, readProfileFile);
-    readOptional(files.security, SourceFile::Security, draft, readSecurityClasses);
+    readOptional(files.security, SourceFile::Security, draft, readSecurityFile);
     readOptional(files.memberLists, SourceFile::MemberLists, draft, readMemberListFile);
     return finishApplication(draft, files, currentYear);
 }

@@ -56,7 +56,7 @@ UserDefined AttributeReader::userDefined(const MemberRecord &record)
     return mLastUserDefined;
 }
 
-ClassId AttributeReader::securityClass(const MemberRecord &record)
+qint32 AttributeReader::securityClass(const MemberRecord &record)
 {
     return mDraft.securityClasses.mention(record.field(Column::SecurityClass), record.place());
 }

@@ -17,7 +17,7 @@ public:
 
 private:
     UserDefined userDefined(const MemberRecord &record);
-    ClassId securityClass(const MemberRecord &record);
+    qint32 securityClass(const MemberRecord &record);
     bool flag(const MemberRecord &record, Column column);
     qint8 accountType(const MemberRecord &record);
     qint8 accountIsICP(const MemberRecord &record);

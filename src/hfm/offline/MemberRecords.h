@@ -1,7 +1,6 @@
 #pragma once
 
 #include "hfm/offline/Texts.h"
-#include "hfm/Values.h"
 
 #include <array>
 
@@ -14,8 +13,8 @@ using UserDefined = std::array<TextRef, 3>;
 struct EntityRecord
 {
     UserDefined userDefined = {};
-    qint32 currency = -1; ///< position among the application's entity currencies, or -1
-    ClassId securityClass = noClass;
+    qint32 currency = -1;      ///< position among the application's entity currencies, or -1
+    qint32 securityClass = -1; ///< position among the classes that members have, or -1
     bool allowAdjs = false;
     bool isICP = false;
     bool allowAdjFromChildren = false;
@@ -30,7 +29,7 @@ struct AccountRecord
     /// For Custom1 to Custom4, the position among the names that accounts give as top members of
     /// that dimension; -1 where the account gives none.
     std::array<qint32, 4> topMembers = {-1, -1, -1, -1};
-    ClassId securityClass = noClass;
+    qint32 securityClass = -1; ///< as an entity's
     qint16 decimalPlaces = 0;
     qint8 type = unknownAccountType; ///< as AccountAttributes::GetAccountType returns it
     qint8 isICP = 0;                 ///< -1 yes, 0 no, 1 restricted
@@ -44,7 +43,7 @@ struct AccountRecord
 struct CustomRecord
 {
     UserDefined userDefined = {};
-    ClassId securityClass = noClass;
+    qint32 securityClass = -1; ///< as an entity's
 };
 
 } // namespace hfm::offline

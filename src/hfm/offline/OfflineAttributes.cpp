@@ -15,6 +15,11 @@ const Record &recordAt(const LargeVector<Record> &records, MemberId member, Dime
     return records[size_t(member)];
 }
 
+ClassId classOf(const Application &application, qint32 ofRecord)
+{
+    return ofRecord < 0 ? noClass : application.security.memberClasses[size_t(ofRecord)];
+}
+
 } // namespace
 
 OfflineEntityAttributes::OfflineEntityAttributes(std::shared_ptr<const Application> application)
@@ -42,7 +47,7 @@ MemberId OfflineEntityAttributes::GetEntityCurrencyId(MemberId entity)
 
 ClassId OfflineEntityAttributes::GetEntitySecurityClassId(MemberId entity)
 {
-    return record(entity).securityClass;
+    return classOf(*mApplication, record(entity).securityClass);
 }
 
 bool OfflineEntityAttributes::GetEntityAllowAdjs(MemberId entity)
@@ -184,7 +189,7 @@ QString OfflineAccountAttributes::GetAccountUserDefined3(MemberId account)
 
 ClassId OfflineAccountAttributes::GetAccountSecurityClassId(MemberId account)
 {
-    return record(account).securityClass;
+    return classOf(*mApplication, record(account).securityClass);
 }
 
 qint32 OfflineAccountAttributes::GetAccountIsICP(MemberId account)
@@ -225,7 +230,7 @@ QString OfflineCustomAttributes::GetCustomUserDefined3(MemberId member)
 
 ClassId OfflineCustomAttributes::GetCustomSecurityClassId(MemberId member)
 {
-    return record(member).securityClass;
+    return classOf(*mApplication, record(member).securityClass);
 }
 
 } // namespace hfm::offline

@@ -5,8 +5,7 @@
 
 namespace hfm::offline {
 
-/// The security of an open application: no users, roles or listed classes. The classes that members
-/// have are known by name, because the metadata names them.
+/// The security of an open application. See hfm/Security.h for what the operations do.
 class OfflineSecurity final : public Security
 {
 public:
@@ -24,6 +23,7 @@ public:
 
 private:
     std::shared_ptr<const Application> mApplication;
+    const StoredSecurity &mSecurity;
 };
 
 } // namespace hfm::offline

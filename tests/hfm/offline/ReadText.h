@@ -6,6 +6,7 @@
 #include "hfm/offline/Application.h"
 #include "hfm/offline/OfflineSession.h"
 #include "hfm/offline/ReadingError.h"
+#include "hfm/offline/SecurityFile.h"
 
 #include <QBuffer>
 
@@ -38,7 +39,7 @@ inline std::shared_ptr<const hfm::offline::Application> readTexts(Texts texts)
     if (!texts.profile.isNull())
         readOne(texts.profile, readProfileFile);
     if (!texts.security.isNull())
-        readOne(texts.security, readSecurityClasses);
+        readOne(texts.security, readSecurityFile);
     ApplicationFiles files;
     files.name = QStringLiteral("Test");
     return finishApplication(draft, files, testYear);

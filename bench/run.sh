@@ -42,6 +42,9 @@ END
 section "Opening an application" \
     "1,000,000 members in 1,200,000 edges, descriptions in two languages; beside a bare pass that finds line and field ends in the same bytes and converts them to UTF-16, and beside a Python script that reads them into dictionaries. The goals: at most 4 bare passes, at least 10 times faster than the script, at most 2.5 times the file in memory." \
     "$programs/open_application" million.app
+section "Opening a security file" \
+    "5,000 users and 2,000 classes with 1,000,000 records of access, beside the same bare pass over its bytes. The goal: at most 4." \
+    "$programs/open_security"
 section "Building and showing an extract" \
     "Building beside copying the finished text once, piece by piece, from ready strings, and the time from the click on \"Run Extract\" to the text on the screen beside building. The goals: at most 3 and at most 2, linear in the rows." \
     "$programs/extract_build"

@@ -11,6 +11,7 @@ using hfm::MemberId;
 namespace {
 
 constexpr qsizetype membersAsked = 50;
+constexpr qsizetype namesAsked = 10;
 
 void promise(bool kept)
 {
@@ -127,10 +128,47 @@ void askCustom(const std::shared_ptr<Dimension> &custom)
     });
 }
 
+void askUsers(hfm::Security &security, const QList<QString> &users)
+{
+    for (qsizetype i = 0; i < std::min(users.size(), namesAsked); ++i) {
+        const hfm::UserId id = security.GetUserId(users[i]);
+        const hfm::FlaggedNames roles = security.EnumUserRoles(id);
+        promise(roles.names.size() == roles.flags.size());
+        for (qsizetype k = 0; k < std::min(roles.names.size(), namesAsked); ++k) {
+            const hfm::FlaggedNames everyone =
+                security.EnumRoleUsers(security.GetRoleId(roles.names[k]));
+            promise(everyone.names == users);
+            promise(everyone.flags[id] == roles.flags[k]);
+        }
+    }
+}
+
 } // namespace
+
+void askSecurity(hfm::Security &security)
+{
+    const hfm::SecurityClasses classes = security.EnumSecurityClasses();
+    promise(classes.ids.size() == classes.names.size());
+    for (qsizetype i = 0; i < std::min(classes.ids.size(), namesAsked); ++i) {
+        const hfm::ClassId id = classes.ids[i];
+        promise(security.GetSecurityClassName(id) == classes.names[i]);
+        promise(security.GetSecurityClassId(classes.names[i]) == id);
+        const hfm::AccessList access = security.EnumClassAccess(id);
+        promise(access.names.size() == access.codes.size());
+        for (qsizetype k = 0; k < std::min(access.names.size(), namesAsked); ++k) {
+            const hfm::AccessList ofUser =
+                security.EnumUserClassAccess(security.GetUserId(access.names[k]));
+            promise(ofUser.names == classes.names);
+            promise(ofUser.codes[i] == access.codes[k]);
+        }
+        if (i == 0)
+            askUsers(security, access.names);
+    }
+}
 
 void askEverything(hfm::Session &session)
 {
+    askSecurity(*session.GetSecurity());
     const auto metadata = session.GetMetadata();
     const int languages = int(std::min<qsizetype>(metadata->GetLanguages().size(), 3));
     for (const auto &dimension : {metadata->GetScenarioDimension(), metadata->GetYearDimension(),

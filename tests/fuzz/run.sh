@@ -10,11 +10,15 @@ build="$1"
 seconds="$2"
 here="$(dirname "$0")"
 
-for fuzzer in app profile; do
+for fuzzer in app profile sec; do
+    case "$fuzzer" in
+        profile) dictionary=app ;;
+        *) dictionary="$fuzzer" ;;
+    esac
     found="$build/found-$fuzzer"
     mkdir -p "$found"
     if "$build/fuzz_$fuzzer" -max_total_time="$seconds" -timeout=20 -rss_limit_mb=2048 -max_len=65536 \
-        -dict="$here/app.dict" -artifact_prefix="$build/crash-$fuzzer-" -print_final_stats=1 \
+        -dict="$here/$dictionary.dict" -artifact_prefix="$build/crash-$fuzzer-" -print_final_stats=1 \
         "$found" "$here/corpus/$fuzzer" >"$build/fuzz-$fuzzer.log" 2>&1; then
         inputs="$(sed -n "s/stat::number_of_executed_units: *//p" "$build/fuzz-$fuzzer.log")"
         echo "fuzz_$fuzzer: $inputs inputs, no finding"

@@ -16,7 +16,8 @@ qint8 accessCode(QByteArrayView text)
     if (text.isEmpty())
         return 0;
     for (qint8 code = 0; code < qint8(std::size(accesses)); ++code) {
-        if (sameWord(text, accesses[code]))
+        const QByteArrayView access = accesses[code];
+        if (text.size() == access.size() && sameWord(text, access))
             return code;
     }
     return unknownAccess;
@@ -24,7 +25,7 @@ qint8 accessCode(QByteArrayView text)
 
 void SecurityDelimiter::Votes::look(QByteArrayView record, qsizetype fewest, qsizetype most)
 {
-    constexpr qint32 enough = 10000;
+    constexpr qint32 enough = 1000;
     if (looked == enough)
         return;
     ++looked;

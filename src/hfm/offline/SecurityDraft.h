@@ -1,16 +1,28 @@
 #pragma once
 
+#include "hfm/offline/AccessTable.h"
 #include "hfm/offline/Names.h"
 
 namespace hfm::offline {
 
-/// A record of a security file that gives an identity something.
-struct AccessRecord
+/// The records of a security file that give identities something. Their rows are numbers of classes
+/// or roles, their columns numbers of the named identities.
+struct AccessRecords
 {
-    qint32 what;     ///< number of the class or the role
-    qint32 identity; ///< number among the named identities
-    Place place;
-    qint8 code;
+    LargeVector<AccessTable::Record> records;
+    LargeVector<Place> places; ///< by record
+
+    void reserve(qint64 further)
+    {
+        constexpr qint64 most = qint64(1) << 22; // more is believed when it is met
+        records.reserve(size_t(std::min(further, most)));
+        places.reserve(size_t(std::min(further, most)));
+    }
+    void add(const AccessTable::Record &record, Place place)
+    {
+        records.push_back(record);
+        places.push_back(place);
+    }
 };
 
 /// What a security file says, while it is read. Its sections may come in any order, so names are
@@ -30,8 +42,8 @@ struct SecurityDraft
     Names namedClasses;
     Names roles;
 
-    std::vector<AccessRecord> roleAccess;
-    std::vector<AccessRecord> classAccess;
+    AccessRecords roleAccess;
+    AccessRecords classAccess;
 };
 
 } // namespace hfm::offline

@@ -4,6 +4,8 @@
 #include "hfm/offline/ReadingError.h"
 #include "hfm/offline/SecurityDelimiter.h"
 
+#include <QHashFunctions>
+
 namespace hfm::offline {
 
 namespace {
@@ -50,6 +52,7 @@ struct SecuritySurvey
     Encoding encoding;
     qsizetype markLength;
     char delimiter;
+    qint64 classAccess; ///< how many records of it there are
 };
 
 SecuritySurvey surveySecurity(QIODevice &device, const QString &fileName)
@@ -64,27 +67,53 @@ SecuritySurvey surveySecurity(QIODevice &device, const QString &fileName)
 
     SecurityDelimiter delimiter;
     bool hasRecords = false;
+    qint64 classAccess = 0;
     readRecords(reader, [&](SectionKind section, QByteArrayView record) {
         hasRecords = true;
-        if (section == SectionKind::ClassAccess)
+        if (section == SectionKind::ClassAccess) {
+            ++classAccess;
             delimiter.lookAtClassAccess(record);
-        else if (section == SectionKind::RoleAccess)
+        } else if (section == SectionKind::RoleAccess) {
             delimiter.lookAtRoleAccess(record);
+        }
     });
     if (!hasRecords)
         throw ReadingError(fileName, 0,
                            QStringLiteral("The file holds no users, classes, roles or access; it "
                                           "is left out."));
     const bool isUtf8 = !found.certain && utf8.isValid();
-    return {isUtf8 ? Encoding::Utf8 : found.encoding, found.markLength, delimiter.result()};
+    return {isUtf8 ? Encoding::Utf8 : found.encoding, found.markLength, delimiter.result(),
+            classAccess};
 }
+
+/// Finds again, without folding their case, the thousands of identities that a file's many records
+/// go through.
+class RecentIdentities
+{
+public:
+    explicit RecentIdentities(Names &names) : mNames(names), mRecent(size_t(1) << 14, -1) {}
+
+    qint32 mention(QByteArrayView name, Place place)
+    {
+        const size_t hash = qHashBits(name.data(), size_t(name.size()));
+        qint32 &recent = mRecent[hash % mRecent.size()];
+        if (recent < 0 || mNames.at(recent) != name)
+            recent = mNames.mention(name, place);
+        return recent;
+    }
+
+private:
+    Names &mNames;
+    std::vector<qint32> mRecent;
+};
 
 /// Takes the records of a security file into the draft of its security.
 class SecurityRecords
 {
 public:
     SecurityRecords(SecurityDraft &security, Warnings &warnings, char delimiter)
-        : mSecurity(security), mWarnings(warnings), mDelimiter(delimiter)
+        : mSecurity(security), mWarnings(warnings), mIdentities(security.namedIdentities),
+          mDelimiter(delimiter)
     {
     }
 
@@ -131,9 +160,9 @@ private:
         mFields.split(record, mDelimiter);
         checkFields(2);
         const qint32 role = mSecurity.roles.mention(mFields.at(0), mPlace);
-        const qint32 identity = mSecurity.namedIdentities.mention(mFields.at(1), mPlace);
+        const qint32 identity = mIdentities.mention(mFields.at(1), mPlace);
         if (role >= 0 && identity >= 0)
-            mSecurity.roleAccess.push_back({role, identity, mPlace, 1});
+            mSecurity.roleAccess.add({role, identity, 1}, mPlace);
         else
             warn([] {
                 return QStringLiteral("The record lacks a role or a user; it is left out.");
@@ -145,7 +174,7 @@ private:
         mFields.split(record, mDelimiter);
         checkFields(4);
         const qint32 securityClass = mSecurity.namedClasses.mention(mFields.at(0), mPlace);
-        const qint32 identity = mSecurity.namedIdentities.mention(mFields.at(1), mPlace);
+        const qint32 identity = mIdentities.mention(mFields.at(1), mPlace);
         if (securityClass < 0 || identity < 0) {
             warn([] {
                 return QStringLiteral("The record lacks a class or a user; it is left out.");
@@ -156,7 +185,7 @@ private:
         const qint8 code = accessCode(access);
         if (access.isEmpty() || code == unknownAccess)
             warn([&] { return QStringLiteral("%1 is no access.").arg(quoted(access)); });
-        mSecurity.classAccess.push_back({securityClass, identity, mPlace, code});
+        mSecurity.classAccess.add({securityClass, identity, code}, mPlace);
     }
 
     void checkFields(qsizetype known)
@@ -174,6 +203,7 @@ private:
 
     SecurityDraft &mSecurity;
     Warnings &mWarnings;
+    RecentIdentities mIdentities;
     char mDelimiter;
     Fields mFields;
     Place mPlace;
@@ -189,6 +219,7 @@ void readSecurityFile(QIODevice &device, ApplicationDraft &draft)
         throw ReadingError(fileName, 0,
                            QStringLiteral("The file cannot be read: %1").arg(device.errorString()));
     SecurityDraft security(*draft.arena);
+    security.classAccess.reserve(survey.classAccess);
     SecurityRecords records(security, draft.warnings, survey.delimiter);
     LineReader reader(device, fileName, survey.encoding);
     readRecords(reader, [&](SectionKind section, QByteArrayView record) {

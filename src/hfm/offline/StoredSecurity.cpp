@@ -25,7 +25,7 @@ public:
     {
     }
 
-    void finish(const SecurityDraft &security)
+    void finish(SecurityDraft security)
     {
         for (qint32 i = 0; i < security.listedIdentities.count(); ++i)
             addUser(security.listedIdentities, i);
@@ -37,12 +37,15 @@ public:
 
         const std::vector<qint32> users = usersNamedIn(security.namedIdentities);
         const std::vector<qint32> classes = classesNamedIn(security.namedClasses);
-        mStored.classAccess = table(security.classAccess, mStored.classes, users,
-                                    [&](qint32 named) { return classes[size_t(named)]; });
-        mStored.roleAccess =
-            table(security.roleAccess, mStored.roles, users, [](qint32 role) { return role; });
+        for (AccessTable::Record &record : security.roleAccess.records)
+            record.column = users[size_t(record.column)];
+        for (AccessTable::Record &record : security.classAccess.records)
+            record = {classes[size_t(record.row)], users[size_t(record.column)], record.code};
+        mStored.roleAccess = table(security.roleAccess, mStored.roles);
+        mStored.classAccess = table(security.classAccess, mStored.classes);
     }
 
+private:
     /// Without a security file nothing tells which classes there are, and so none is amiss.
     void addMemberClasses()
     {
@@ -55,7 +58,6 @@ public:
         }
     }
 
-private:
     void warnOfClass(const Names &named, qint32 index)
     {
         mDraft.warnings.add(named.place(index), [&] {
@@ -105,21 +107,15 @@ private:
     }
 
     /// `rows` are the names of what there is access to.
-    template <typename RowOf>
-    AccessTable table(const std::vector<AccessRecord> &access, const Labels &rows,
-                      const std::vector<qint32> &users, RowOf rowOf)
+    AccessTable table(const AccessRecords &access, const Labels &rows)
     {
-        std::vector<AccessTable::Record> records;
-        records.reserve(access.size());
-        for (const AccessRecord &record : access)
-            records.push_back({rowOf(record.what), users[size_t(record.identity)], record.code});
         std::vector<size_t> repeated;
-        AccessTable made(rows.count(), mStored.users.count(), records, repeated);
+        AccessTable made(rows.count(), mStored.users.count(), access.records, repeated);
         for (const size_t at : repeated)
-            mDraft.warnings.add(access[at].place, [&] {
+            mDraft.warnings.add(access.places[at], [&] {
+                const AccessTable::Record &record = access.records[at];
                 return QStringLiteral("%1 has a record for %2 already; this one is left out.")
-                    .arg(quoted(mStored.users.at(records[at].column)),
-                         quoted(rows.at(records[at].row)));
+                    .arg(quoted(mStored.users.at(record.column)), quoted(rows.at(record.row)));
             });
         return made;
     }
@@ -134,10 +130,7 @@ StoredSecurity storeSecurity(ApplicationDraft &draft)
 {
     StoredSecurity stored(*draft.arena);
     SecurityFinisher finisher(draft, stored);
-    if (draft.security)
-        finisher.finish(*draft.security);
-    else
-        finisher.addMemberClasses();
+    finisher.finish(draft.security ? std::move(*draft.security) : SecurityDraft(*draft.arena));
     draft.security.reset();
     return stored;
 }

@@ -204,6 +204,7 @@ private Q_SLOTS:
         const auto security = reading.session()->GetSecurity();
         QCOMPARE(security->EnumSecurityClasses().names, QStringList{u"SC_A"_s});
         QVERIFY(security->EnumClassAccess(0).names.isEmpty());
+        QVERIFY(security->EnumClassAccess(0).codes.isEmpty());
         const auto view = reading.entity()->entityAttributes();
         QCOMPARE(view->GetEntitySecurityClassId(0), 0);
         QCOMPARE(view->GetEntitySecurityClassId(1), hfm::noClass);

@@ -90,12 +90,12 @@ void frmMemberListBuilder::onKey(const QKeySequence &key, Handler action)
 bool frmMemberListBuilder::eventFilter(QObject *watched, QEvent *event)
 {
     mServices.trap.run([&] {
-        const bool isKeyUp = event->type() == QEvent::KeyRelease;
-        if (watched == mControls.txtMemberListName && isKeyUp)
-            enableGenerating();
-        else if (watched == mControls.lstMemberList && isKeyUp)
+        const bool isNewList = watched == mControls.lstMemberList;
+        if (isNewList && event->type() == QEvent::KeyPress)
+            lstMemberList_KeyDown(*static_cast<const QKeyEvent *>(event));
+        else if (isNewList && event->type() == QEvent::KeyRelease)
             lstMemberList_KeyUp(*static_cast<const QKeyEvent *>(event));
-        else if (watched == mControls.lstMemberList && event->type() == QEvent::FocusIn)
+        else if (event->type() == (isNewList ? QEvent::FocusIn : QEvent::KeyRelease))
             enableGenerating();
     });
     return QMainWindow::eventFilter(watched, event);

@@ -2,6 +2,7 @@
 
 #include "listbuilder/BuilderTreeModel.h"
 #include "listbuilder/frmMemberListBuilderControls.h"
+#include "listbuilder/KeyHold.h"
 #include "listbuilder/NewListModel.h"
 #include "shell/modGlobal.h"
 #include "shell/Services.h"
@@ -42,6 +43,7 @@ private:
     void lstMetadata_DblClick(const QModelIndex &row);
     void insertRows(const QStringList &rows);
 
+    void lstMemberList_KeyDown(const QKeyEvent &key);
     void lstMemberList_KeyUp(const QKeyEvent &key);
     void cmdDeleteMemberInList_Click();
     void cmdClearMemberList_Click();
@@ -61,5 +63,6 @@ private:
     modGlobal &mGlobal;
     BuilderTreeModel mTree;
     NewListModel mNewList;
+    KeyHold mHeldKey; ///< in the new list
     frmMemberListBuilderControls mControls;
 };

@@ -74,12 +74,15 @@ void frmMemberListBuilder::insertRows(const QStringList &rows)
 
 // The new list.
 
+void frmMemberListBuilder::lstMemberList_KeyDown(const QKeyEvent &key)
+{
+    mHeldKey.press(key.key(), key.timestamp(), key.isAutoRepeat());
+}
+
 void frmMemberListBuilder::lstMemberList_KeyUp(const QKeyEvent &key)
 {
-    // A key that is held down is released once, whatever the platform sends while it is.
-    if (key.isAutoRepeat())
-        return;
-    if (key.key() == Qt::Key_Delete)
+    const bool counts = mHeldKey.release(key.key(), key.timestamp(), key.isAutoRepeat());
+    if (counts && key.key() == Qt::Key_Delete)
         mNewList.remove(selectedRow());
     enableGenerating();
 }

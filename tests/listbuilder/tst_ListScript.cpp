@@ -191,6 +191,8 @@ private Q_SLOTS:
         QCOMPARE(QApplication::clipboard()->text(), QString(syntax()).remove(u'\r'));
     }
 
+    void linesAreNotWrapped() { QCOMPARE(box()->lineWrapMode(), QPlainTextEdit::NoWrap); }
+
     void longScriptsAreShownWhole()
     {
         QStringList lines(32'767, u"HS.AddMemberToList \"A\""_s);

@@ -94,6 +94,27 @@ private Q_SLOTS:
         QCOMPARE(newList(), u"B C"_s);
     }
 
+    void aHeldDeleteKeyWhoseRepetitionsAreNotMarkedRemovesOneRow()
+    {
+        select(0);
+        QListView *list = mBuilder->list("lstMemberList");
+        const auto send = [&](QEvent::Type type, quint64 time) {
+            QKeyEvent event(type, Qt::Key_Delete, Qt::NoModifier);
+            event.setTimestamp(time);
+            QApplication::sendEvent(list, &event);
+        };
+        send(QEvent::KeyPress, 100);
+        for (const quint64 time : {700, 740, 780}) {
+            send(QEvent::KeyRelease, time);
+            send(QEvent::KeyPress, time);
+        }
+        send(QEvent::KeyRelease, 800);
+        QCOMPARE(newList(), u"B C"_s);
+        send(QEvent::KeyPress, 1000);
+        send(QEvent::KeyRelease, 1050);
+        QCOMPARE(newList(), u"C"_s);
+    }
+
     void clearRemovesEveryRowAndGivesTheListTheFocus()
     {
         focusElsewhere();

@@ -1,12 +1,13 @@
 #include "shell/frmMainControls.h"
 
 #include "shell/Dimensions.h"
-#include "shell/frmComboWheel.h"
+#include "shell/frmTabControls.h"
 
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QMenuBar>
-#include <QStatusBar>
+
+using namespace TabControls;
 
 namespace {
 
@@ -25,30 +26,11 @@ QMenu *addMenu(QMainWindow *window, const char *name, const QString &caption)
 }
 
 QPushButton *makeButton(QWidget *parent, const char *name, const QString &caption,
-                        const QString &toolTip = {})
+                        const QString &toolTip)
 {
-    auto *button = new QPushButton(caption, parent);
-    button->setObjectName(QLatin1StringView(name));
-    button->setAccessibleName(QString(caption).remove(u'&'));
+    QPushButton *button = TabControls::makeButton(parent, name, caption);
     button->setToolTip(toolTip);
     return button;
-}
-
-QLabel *makeLabel(QWidget *parent, const char *name, const QString &text)
-{
-    auto *label = new QLabel(text, parent);
-    label->setObjectName(QLatin1StringView(name));
-    return label;
-}
-
-QComboBox *makeList(QLabel *label, const char *name)
-{
-    auto *list = new QComboBox(label->parentWidget());
-    list->setObjectName(QLatin1StringView(name));
-    list->setAccessibleName(label->text().remove(u':'));
-    label->setBuddy(list);
-    new frmComboWheel(list);
-    return list;
 }
 
 } // namespace
@@ -114,14 +96,9 @@ void frmMainControls::fillDimensionList()
 
 void frmMainControls::makeStatusBar(QMainWindow *window)
 {
-    QStatusBar *const bar = window->statusBar();
-    bar->setObjectName(QStringLiteral("sbStatusBar"));
-    statusPanel = makeLabel(bar, "sbStatusBar_1", QStringLiteral("Status"));
-    statusPanel->setTextFormat(Qt::PlainText);
+    statusPanel = makeStatusPanel(window->statusBar());
+    statusPanel->setText(QStringLiteral("Status"));
     statusPanel->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    // A long cluster name must not widen the window.
-    statusPanel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    bar->addWidget(statusPanel, 1);
 }
 
 void frmMainControls::layOut(QMainWindow *window)

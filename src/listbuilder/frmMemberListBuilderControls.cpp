@@ -9,7 +9,6 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QSplitter>
-#include <QStatusBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -72,17 +71,9 @@ void frmMemberListBuilderControls::makeFrame(QMainWindow *window)
     mnuExit = file->addAction(u"E&xit Tessaly"_s);
     mnuExit->setObjectName(u"mnuExit"_s);
 
-    window->statusBar()->setObjectName(u"sbStatusBar"_s);
-    applicationPanel = makeLabel(window->statusBar(), "sbStatusBar_1", {});
-    // A long name must not widen the window.
-    applicationPanel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    window->statusBar()->addWidget(applicationPanel, 1);
-
+    applicationPanel = makeStatusPanel(window->statusBar());
     auto *content = new QWidget(window);
-    lblDimension = makeLabel(content, "lblDimension", {});
-    QFont heading = lblDimension->font();
-    heading.setBold(true);
-    lblDimension->setFont(heading);
+    lblDimension = makeHeading(content, "lblDimension");
     ssTabMemberListBuilder = new QTabWidget(content);
     ssTabMemberListBuilder->setObjectName(u"ssTabMemberListBuilder"_s);
     ssTabMemberListBuilder->setAccessibleName(u"Member lists"_s);

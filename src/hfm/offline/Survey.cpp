@@ -57,17 +57,19 @@ public:
     }
 
     /// The delimiter stands in every record of a hierarchy, so a first character that another
-    /// record does without only begins a label. Where a label begins with a character that the
-    /// others happen to hold too, the comment or the members tell which of the two it is.
+    /// record does without only begins a label. Where top members seem to stand behind several
+    /// that it may be, the comment or the members tell which of them it is.
     char result() const
     {
         const char told = mByComment ? mByComment : mByDefaultParent;
-        if (told && isInEveryEdge(told))
+        if (mBeforeTopMembers.contains(told) && isInEveryEdge(told))
             return told;
         for (const char found : mBeforeTopMembers) {
             if (isInEveryEdge(found))
                 return found;
         }
+        if (told && isInEveryEdge(told))
+            return told;
         if (!mBeforeTopMembers.isEmpty())
             return mBeforeTopMembers.front();
         return told ? told : ';';
@@ -92,14 +94,15 @@ private:
         return ifDelimiter(trimmed(comment.sliced(label.size())), 0);
     }
 
-    /// A line that begins with "#root" has a parent, written out, unless the delimiter is '#'.
+    /// Before "#root", which is an empty parent written out, stands no delimiter unless that is
+    /// '#'.
     static char beforeTopMember(QByteArrayView record)
     {
         if (record.size() > rootLabel.size() &&
             sameWord(record.first(rootLabel.size()), rootLabel)) {
             const char next = trimmed(record.sliced(rootLabel.size())).front();
             if (mayDelimit(next) && next != '#')
-                return '\0';
+                return next;
         }
         return ifDelimiter(record, 0);
     }

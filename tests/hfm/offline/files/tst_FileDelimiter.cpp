@@ -77,6 +77,17 @@ private Q_SLOTS:
         QCOMPARE(reading.entity()->GetMemberDescription(0, 0), u"one; two"_s);
     }
 
+    void theFirstWayWinsOverACommentsCharacterThatLabelsHappenToHold()
+    {
+        const Reading reading = readText(
+            "!MEMBERS=Entity\n'Label,UserDefined1,DefaultParent,Descriptions\n"
+            "Sales, net;one;DefaultParent=#root\nSales, east;two;DefaultParent=Sales, net\n"
+            "!HIERARCHIES=Entity\n;Sales, net\nSales, net;Sales, east\n");
+        QCOMPARE(reading.warnings(), QStringList());
+        QCOMPARE(treeOf(*reading.entity()), u"Sales, net\n  Sales, east\n"_s);
+        QCOMPARE(reading.entity()->entityAttributes()->GetEntityUserDefined1(1), u"two"_s);
+    }
+
     void theSecondWayIsTheCharacterAfterLabelInTheComment_data() { addAllowedDelimiters(); }
 
     void theSecondWayIsTheCharacterAfterLabelInTheComment()

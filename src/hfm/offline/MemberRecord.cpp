@@ -44,7 +44,7 @@ qsizetype MemberRecord::firstDescription() const
 {
     if (mDefaultParent < 0)
         return mPositional;
-    const bool isSplit = mDelimiter == '#' && mFields.at(mDefaultParent + 1) == "root";
+    const bool isSplit = mDelimiter == '#' && sameWord(mFields.at(mDefaultParent + 1), "root");
     return mDefaultParent + (isSplit ? 2 : 1);
 }
 

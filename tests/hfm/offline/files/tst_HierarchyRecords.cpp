@@ -54,6 +54,21 @@ private Q_SLOTS:
         QCOMPARE(treeOf(*reading.entity()), u"A\n  E\nB\nC\nD\n"_s);
     }
 
+    void theRootIsWrittenOutInAnyCaseWhereTheDelimiterIsItsFirstCharacter()
+    {
+        for (const QByteArray &root : QByteArrayList{"#root", "#ROOT", " #Root", ""}) {
+            const Reading reading =
+                readText("!MEMBERS=Entity\n'Label#DefaultParent#Descriptions\n"
+                         "A#DefaultParent=" +
+                         root + "#English=The A\n!HIERARCHIES=Entity\n#A\n#ROOT#B\n");
+            QCOMPARE(treeOf(*reading.entity()), u"A\nB\n"_s);
+            QCOMPARE(reading.entity()->GetDefaultParentLabel(0), QString());
+            QCOMPARE(reading.entity()->GetMemberDescription(0, 0), u"The A"_s);
+            QCOMPARE(reading.metadata()->GetLanguages(), QStringList{u"English"_s});
+            QVERIFY(reading.warnsOnlyOf(6, {u"B"_s}));
+        }
+    }
+
     void fileOrderIsSiblingOrderWhateverTheMembersOrder()
     {
         const Reading reading =

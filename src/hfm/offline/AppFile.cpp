@@ -8,6 +8,7 @@
 #include "hfm/offline/Survey.h"
 #include "hfm/offline/Syntax.h"
 
+#include <algorithm>
 #include <map>
 
 namespace hfm::offline {
@@ -38,6 +39,18 @@ constexpr KnownSection knownSections[] = {
     {"APPLICATION_SETTINGS", SectionKind::Settings, false},
     {"LANGUAGES", SectionKind::Languages, false},
 };
+
+/// Whether a comment names columns and is no remark. Those of members and lists have a Label, which
+/// another writer than HFM may put elsewhere than first, those of a hierarchy a Parent and a Child.
+bool namesColumns(const QList<QByteArrayView> &names)
+{
+    const auto has = [&](QByteArrayView column) {
+        return std::any_of(names.begin(), names.end(),
+                           [&](QByteArrayView name) { return sameWord(name, column); });
+    };
+    return sameWord(names.first(), "Label") || (has("Parent") && has("Child")) ||
+           (has("Label") && (has("DefaultParent") || has("Descriptions")));
+}
 
 bool isOfProfile(DimensionKind kind)
 {
@@ -101,12 +114,10 @@ private:
         if (!mColumnsMayFollow)
             return;
         const QList<QByteArrayView> columns = splitNames(text, mDelimiter);
-        const bool namesColumns = sameWord(columns.first(), "Label") ||
-                                  sameWord(columns.first(), "Parent") ||
-                                  sameWord(columns.first(), "Child");
-        if (namesColumns)
-            mSection->readColumns(columns);
-        mColumnsMayFollow = !namesColumns;
+        if (!namesColumns(columns))
+            return;
+        mSection->readColumns(columns);
+        mColumnsMayFollow = false;
     }
 
     /// A member's record that the file's end cuts off before its DefaultParent field.
@@ -189,7 +200,7 @@ private:
         case SectionKind::Languages:
             break;
         }
-        return std::make_unique<NameSection>(mDraft.listedLanguages);
+        return std::make_unique<NameSection>(mDraft.listedLanguages, mDelimiter);
     }
 
     /// A custom dimension goes by its own name before the name that this program has for it.

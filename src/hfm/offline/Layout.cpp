@@ -45,33 +45,15 @@ constexpr NamedColumn plainColumns[] = {
     {"useslineitems", Column::UsesLineItems},
 };
 
-/// The custom dimension that a column of accounts speaks of: by what its name holds besides the
-/// words that all such columns have, else by how many of them stood before.
-qsizetype customOfColumn(const QByteArray &rest, qsizetype before,
-                         const QList<QByteArray> &customNames)
-{
-    for (qsizetype k = 0; k < customNames.size(); ++k) {
-        if (!rest.isEmpty() && rest == normalized(customNames[k]))
-            return k;
-    }
-    if (rest.startsWith("custom") && rest.size() > 6) {
-        bool isNumber = false;
-        const int number = rest.sliced(6).toInt(&isNumber);
-        if (isNumber && number > 0)
-            return number - 1;
-    }
-    return before;
-}
-
 /// Tells the columns of an account that there is one of for each custom dimension.
 class CustomColumns
 {
 public:
-    explicit CustomColumns(const QList<QByteArray> &customNames) : mCustomNames(customNames) {}
+    explicit CustomColumns(const CustomNames &customNames) : mCustomNames(customNames) {}
 
     std::optional<Column> find(const QByteArray &name)
     {
-        if (name.contains("top") && name.endsWith("member") && !name.contains("icp"))
+        if (name != "icptopmember" && name.contains("top") && name.endsWith("member"))
             return one(Column::TopMember1, name, {"top", "member"}, mTopMembers);
         if (name.startsWith("enable") && name.contains("aggr"))
             return one(Column::EnableAggr1, name, {"enable", "aggr"}, mAggregations);
@@ -79,18 +61,21 @@ public:
     }
 
 private:
+    /// A column whose name tells no dimension goes by how many of its kind stood before.
     std::optional<Column> one(Column first, QByteArray name,
                               std::initializer_list<QByteArrayView> words, qsizetype &before)
     {
         for (const QByteArrayView word : words)
             name.remove(name.lastIndexOf(word), word.size());
-        const qsizetype custom = customOfColumn(name, before++, mCustomNames);
+        const qsizetype named = mCustomNames.find(name);
+        const qsizetype custom = named >= 0 ? named : before;
+        ++before;
         if (custom >= customsRead)
             return std::nullopt;
         return ofCustom(first, custom);
     }
 
-    const QList<QByteArray> &mCustomNames;
+    const CustomNames &mCustomNames;
     qsizetype mTopMembers = 0;
     qsizetype mAggregations = 0;
 };
@@ -105,6 +90,29 @@ std::optional<Column> plainColumn(const QByteArray &name)
 }
 
 } // namespace
+
+CustomNames::CustomNames(const QList<QByteArray> &names)
+{
+    for (qsizetype k = 0; k < names.size(); ++k) {
+        if (const QByteArray name = normalized(names[k]); !mPositions.contains(name))
+            mPositions.insert(name, k);
+    }
+}
+
+qsizetype CustomNames::find(const QByteArray &rest) const
+{
+    if (rest.isEmpty())
+        return -1;
+    if (const auto found = mPositions.constFind(rest); found != mPositions.constEnd())
+        return *found;
+    if (rest.startsWith("custom")) {
+        bool isNumber = false;
+        const int number = rest.sliced(6).toInt(&isNumber);
+        if (isNumber && number > 0)
+            return number - 1;
+    }
+    return -1;
+}
 
 void Layout::append(std::initializer_list<Column> columns)
 {
@@ -174,7 +182,7 @@ Layout Layout::documented(DimensionKind kind, qsizetype customs)
     return layout;
 }
 
-Layout Layout::named(const QList<QByteArrayView> &columns, const QList<QByteArray> &customNames)
+Layout Layout::named(const QList<QByteArrayView> &columns, const CustomNames &customNames)
 {
     Layout layout;
     layout.mHasDefaultParent = false;

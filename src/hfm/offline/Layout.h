@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
+#include <QHash>
 #include <QList>
 
 #include <array>
@@ -39,6 +40,21 @@ enum class Column {
     Count
 };
 
+/// The custom dimensions' own names, as they are found in the names of columns.
+class CustomNames
+{
+public:
+    /// `names` are the dimensions' own names, in order.
+    explicit CustomNames(const QList<QByteArray> &names);
+
+    /// The dimension's position, from 0, by what a column's name holds besides the words that all
+    /// such columns have: its own name, or "CustomN". -1 where that tells none.
+    qsizetype find(const QByteArray &rest) const;
+
+private:
+    QHash<QByteArray, qsizetype> mPositions;
+};
+
 /// Where the fields of a section's member records stand, as counted from 0, before the
 /// DefaultParent field or the first description.
 class Layout
@@ -47,8 +63,8 @@ public:
     /// The order that HFM documents. `customs` is the number of the application's custom
     /// dimensions. The shorter forms of older releases lack fields at the end only.
     static Layout documented(DimensionKind kind, qsizetype customs);
-    /// The order that a comment names, which must begin with Label.
-    static Layout named(const QList<QByteArrayView> &columns, const QList<QByteArray> &customNames);
+    /// The order that a comment names.
+    static Layout named(const QList<QByteArrayView> &columns, const CustomNames &customNames);
 
     /// The field's index, or -1.
     qsizetype index(Column column) const { return mIndexes[size_t(column)]; }

@@ -1,6 +1,7 @@
 #include "hfm/offline/ListSections.h"
 
 #include "hfm/offline/FieldValues.h"
+#include "hfm/offline/SystemMembers.h"
 
 namespace hfm::offline {
 
@@ -20,6 +21,16 @@ void addListed(ListedNames &listed, QByteArrayView label, DescriptionRange descr
             return QStringLiteral("The record has no label; it is left out.");
         return QStringLiteral("%1 has a record already; this one is left out.").arg(quoted(label));
     });
+}
+
+/// -1 where there is no such column.
+qsizetype indexOfColumn(const QList<QByteArrayView> &columns, QByteArrayView name)
+{
+    for (qsizetype i = 0; i < columns.size(); ++i) {
+        if (sameWord(columns[i], name))
+            return i;
+    }
+    return -1;
 }
 
 bool isComparison(QByteArrayView field)
@@ -56,6 +67,12 @@ CurrencySection::CurrencySection(ApplicationDraft &draft, char delimiter)
 {
 }
 
+void CurrencySection::readColumns(const QList<QByteArrayView> &columns)
+{
+    mLabel = indexOfColumn(columns, "Label");
+    mScale = indexOfColumn(columns, "Scale");
+}
+
 void CurrencySection::readRecord(QByteArrayView line, Place place)
 {
     constexpr qsizetype mostFields = 4;
@@ -64,16 +81,19 @@ void CurrencySection::readRecord(QByteArrayView line, Place place)
     qsizetype first = 1;
     while (first < fields.count() && !fields.at(first).contains('='))
         ++first;
+    const QByteArrayView label = fields.at(mLabel);
     if (lastFilled(fields, first) >= mostFields)
         mDraft.warnings.add(place, [&] {
             return QStringLiteral("The record of %1 has %2 fields where %3 are known; the last "
                                   "ones are left out.")
-                .arg(quoted(fields.at(0)), QString::number(first), QString::number(mostFields));
+                .arg(quoted(label), QString::number(first), QString::number(mostFields));
         });
-    if (first > 1)
-        warnOfNumber(mDraft, fields.at(1), place);
-    addListed(mDraft.currencies, fields.at(0), mDescriptions.read(fields, first, place), mDraft,
-              place);
+    if (mScale >= 0 && mScale < first)
+        warnOfNumber(mDraft, fields.at(mScale), place);
+    // It stands for no currency, where a file lists it as well.
+    if (sameLabel(label, noneLabel))
+        return;
+    addListed(mDraft.currencies, label, mDescriptions.read(fields, first, place), mDraft, place);
 }
 
 MethodSection::MethodSection(ApplicationDraft &draft, char delimiter)
@@ -83,16 +103,11 @@ MethodSection::MethodSection(ApplicationDraft &draft, char delimiter)
 
 void MethodSection::readColumns(const QList<QByteArrayView> &columns)
 {
-    mControl = -1;
-    mShare = -1;
-    for (qsizetype i = 1; i < columns.size(); ++i) {
-        if (sameWord(columns[i], "Descriptions"))
-            mFirstDescription = i;
-        else if (sameWord(columns[i], "ToPercentControl"))
-            mControl = i;
-        else if (sameWord(columns[i], "PercentConsol"))
-            mShare = i;
-    }
+    mLabel = indexOfColumn(columns, "Label");
+    mControl = indexOfColumn(columns, "ToPercentControl");
+    mShare = indexOfColumn(columns, "PercentConsol");
+    if (const qsizetype descriptions = indexOfColumn(columns, "Descriptions"); descriptions > 0)
+        mFirstDescription = descriptions;
 }
 
 void MethodSection::readRecord(QByteArrayView line, Place place)
@@ -107,13 +122,17 @@ void MethodSection::readRecord(QByteArrayView line, Place place)
         warnOfNumber(mDraft, fields.at(mControl), place);
     if (mShare >= 0 && mShare < first && !isCalculatedShare(fields.at(mShare)))
         warnOfNumber(mDraft, fields.at(mShare), place);
-    addListed(mDraft.methods, fields.at(0), mDescriptions.read(fields, first, place), mDraft,
+    addListed(mDraft.methods, fields.at(mLabel), mDescriptions.read(fields, first, place), mDraft,
               place);
 }
 
+/// A delimiter at the line's end makes no part of the name.
 void NameSection::readRecord(QByteArrayView line, Place place)
 {
-    mNames.mention(trimmed(line), place);
+    QByteArrayView name = trimmed(line);
+    while (name.endsWith(mDelimiter))
+        name = trimmed(name.chopped(1));
+    mNames.mention(name, place);
 }
 
 void SettingsSection::readRecord(QByteArrayView line, Place place)

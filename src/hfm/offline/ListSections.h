@@ -10,12 +10,16 @@ class CurrencySection final : public Section
 {
 public:
     CurrencySection(ApplicationDraft &draft, char delimiter);
+    void readColumns(const QList<QByteArrayView> &columns) override;
     void readRecord(QByteArrayView line, Place place) override;
 
 private:
     ApplicationDraft &mDraft;
     char mDelimiter;
     DescriptionReader mDescriptions;
+    // Where these fields stand; -1 for one that the comment does not name.
+    qsizetype mLabel = 0;
+    qsizetype mScale = 1;
 };
 
 /// !CONSOLIDATION_METHODS: label and six more fields, one of which is a comparison that holds a
@@ -32,6 +36,7 @@ private:
     char mDelimiter;
     DescriptionReader mDescriptions;
     // Where these fields stand; -1 for one that the comment does not name.
+    qsizetype mLabel = 0;
     qsizetype mControl = 4; ///< up to which percentage of control the method is used
     qsizetype mShare = 5;   ///< the percentage that is consolidated
     qsizetype mFirstDescription = 7;
@@ -41,11 +46,12 @@ private:
 class NameSection final : public Section
 {
 public:
-    explicit NameSection(Names &names) : mNames(names) {}
+    NameSection(Names &names, char delimiter) : mNames(names), mDelimiter(delimiter) {}
     void readRecord(QByteArrayView line, Place place) override;
 
 private:
     Names &mNames;
+    char mDelimiter;
 };
 
 /// !APPLICATION_SETTINGS: the application's default currency.

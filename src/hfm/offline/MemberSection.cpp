@@ -4,15 +4,15 @@ namespace hfm::offline {
 
 MemberSection::MemberSection(ApplicationDraft &draft, DimensionKind kind, char delimiter)
     : mDraft(draft), mDimension(draft.dimension(kind)), mDelimiter(delimiter),
-      mLayout(Layout::documented(kind, draft.customNames.size())), mAttributes(draft),
-      mDescriptions(draft)
+      mCustomNames(draft.customNames), mLayout(Layout::documented(kind, draft.customNames.size())),
+      mAttributes(draft), mDescriptions(draft)
 {
 }
 
 void MemberSection::readColumns(const QList<QByteArrayView> &columns)
 {
     finish();
-    mLayout = Layout::named(columns, mDraft.customNames);
+    mLayout = Layout::named(columns, mCustomNames);
 }
 
 void MemberSection::readRecord(QByteArrayView line, Place place)

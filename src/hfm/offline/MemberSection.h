@@ -31,6 +31,7 @@ private:
     ApplicationDraft &mDraft;
     DimensionDraft &mDimension;
     char mDelimiter;
+    CustomNames mCustomNames;
     Layout mLayout;
     AttributeReader mAttributes;
     DescriptionReader mDescriptions;

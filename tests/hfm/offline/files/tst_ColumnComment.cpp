@@ -56,6 +56,107 @@ private Q_SLOTS:
         QCOMPARE(view->GetAccountType(0), 5);
     }
 
+    void aCustomDimensionsOwnNameMayHoldAnyOfTheWordsAroundIt()
+    {
+        const Reading reading = readText(
+            "!CUSTOM_ORDER=BasicPlan;ICPFlow;DesktopMember;EnableAggr\n!MEMBERS=Account\n"
+            "'Label;ICPTopMember;EnableAggrTopMember;DesktopMemberTopMember;ICPFlowTopMember;"
+            "BasicPlanTopMember;EnableEnableAggrAggr;EnableDesktopMemberAggr;EnableICPFlowAggr;"
+            "EnableBasicPlanAggr;DefaultParent;Descriptions\n"
+            "BS;[ICP Top];E1;D1;I1;B1;Y;N;Y;N;DefaultParent=#root\n"
+            "!HIERARCHIES=Account\n;BS\n"
+            "!HIERARCHIES=BasicPlan\n;B1;1\n!HIERARCHIES=ICPFlow\n;I1;1\n"
+            "!HIERARCHIES=DesktopMember\n;D1;1\n!HIERARCHIES=EnableAggr\n;E1;1\n");
+        const auto metadata = reading.metadata();
+        const auto view = reading.account()->accountAttributes();
+        QCOMPARE(view->GetAccountTopCustom1(0), reading.custom1()->GetMemberId(u"B1"_s));
+        QCOMPARE(view->GetAccountTopCustom2(0), reading.custom2()->GetMemberId(u"I1"_s));
+        QCOMPARE(view->GetAccountTopCustom3(0),
+                 metadata->GetCustom3Dimension()->GetMemberId(u"D1"_s));
+        QCOMPARE(view->GetAccountTopCustom4(0),
+                 metadata->GetCustom4Dimension()->GetMemberId(u"E1"_s));
+        QVERIFY(!view->GetAccountCustom1AggEnabled(0));
+        QVERIFY(view->GetAccountCustom2AggEnabled(0));
+        QVERIFY(!view->GetAccountCustom3AggEnabled(0));
+        QVERIFY(view->GetAccountCustom4AggEnabled(0));
+    }
+
+    void columnsOfTheFifthCustomDimensionAndTheFollowingAreIgnored()
+    {
+        const Reading reading = readText(
+            "!CUSTOM_ORDER=A;B;C;D;Fifth;Sixth\n!MEMBERS=Account\n"
+            "'Label;FifthTopMember;SixthTopMember;ATopMember;EnableFifthAggr;EnableSixthAggr;"
+            "EnableDAggr;DefaultParent;Descriptions\n"
+            "BS;X;Y;M;Y;Y;N;DefaultParent=#root\n!HIERARCHIES=Account\n;BS\n"
+            "!HIERARCHIES=A\n;M;1\n");
+        const auto view = reading.account()->accountAttributes();
+        QCOMPARE(view->GetAccountTopCustom1(0), reading.custom1()->GetMemberId(u"M"_s));
+        QCOMPARE(view->GetAccountTopCustom2(0), -1);
+        QCOMPARE(view->GetAccountTopCustom3(0), -1);
+        QCOMPARE(view->GetAccountTopCustom4(0), -1);
+        QVERIFY(!view->GetAccountCustom1AggEnabled(0));
+        QVERIFY(!view->GetAccountCustom2AggEnabled(0));
+        QVERIFY(!view->GetAccountCustom4AggEnabled(0));
+    }
+
+    void columnsCalledCustomNGoByTheirNumber()
+    {
+        const Reading reading =
+            readText("!CUSTOM_ORDER=Movement;Product\n!MEMBERS=Account\n"
+                     "'Label;Custom2TopMember;Custom1TopMember;EnableCustom2Aggr;EnableCustom1Aggr;"
+                     "DefaultParent;Descriptions\n"
+                     "BS;P;M;Y;N;DefaultParent=#root\n!HIERARCHIES=Account\n;BS\n"
+                     "!HIERARCHIES=Movement\n;M;1\n!HIERARCHIES=Product\n;P;1\n");
+        const auto view = reading.account()->accountAttributes();
+        QCOMPARE(view->GetAccountTopCustom1(0), reading.custom1()->GetMemberId(u"M"_s));
+        QCOMPARE(view->GetAccountTopCustom2(0), reading.custom2()->GetMemberId(u"P"_s));
+        QVERIFY(!view->GetAccountCustom1AggEnabled(0));
+        QVERIFY(view->GetAccountCustom2AggEnabled(0));
+    }
+
+    void theLabelNeedNotStandFirst()
+    {
+        const Reading reading =
+            readText("!MEMBERS=Entity\n'DefCurrency;Label;UserDefined1;DefaultParent;Descriptions\n"
+                     "EUR;A;one;DefaultParent=#root;English=The A\n!HIERARCHIES=Entity\n;A\n"
+                     "!CURRENCIES\n'Scale;Label;Descriptions\n0;EUR;English=Euro\n"
+                     "!CONSOLIDATION_METHODS\n'IsHoldingMethod;Label;PercentConsol;Descriptions\n"
+                     "Y;HOLDING;100;English=Holding\n");
+        QCOMPARE(reading.warnings(), QStringList());
+        const auto entity = reading.entity();
+        QCOMPARE(treeOf(*entity), u"A\n"_s);
+        QCOMPARE(entity->GetMemberDescription(0, 0), u"The A"_s);
+        const auto view = entity->entityAttributes();
+        QCOMPARE(view->GetEntityUserDefined1(0), u"one"_s);
+        QCOMPARE(reading.value()->GetMemberLabel(view->GetEntityCurrencyId(0)), u"EUR"_s);
+        const auto custom = reading.custom1();
+        QCOMPARE(treeOf(*custom), u"[None]\nEUR\nHOLDING\n"_s);
+        QCOMPARE(custom->GetMemberDescription(custom->GetMemberId(u"EUR"_s), 0), u"Euro"_s);
+        QCOMPARE(custom->GetMemberDescription(custom->GetMemberId(u"HOLDING"_s), 0), u"Holding"_s);
+    }
+
+    void aRemarkThatHoldsTheWordsOfColumnsNamesNone_data()
+    {
+        QTest::addColumn<QByteArray>("remark");
+        for (const char *remark : {"'the Label; written by hand", "'The Label;Descriptions;too",
+                                   "'here; Label; and so on", "'Descriptions; DefaultParent",
+                                   "'Parent; see the manual", "'Child"})
+            QTest::newRow(remark) << QByteArray(remark);
+    }
+
+    void aRemarkThatHoldsTheWordsOfColumnsNamesNone()
+    {
+        QFETCH(QByteArray, remark);
+        const Reading reading =
+            readText("!MEMBERS=Entity\n" + remark +
+                     "\nA;;;;;;one;;;;;DefaultParent=#root\nB;;;;;;two;;;;;DefaultParent=A\n"
+                     "!HIERARCHIES=Entity\n" +
+                     remark + "\n;A\nA;B\n");
+        QCOMPARE(reading.warnings(), QStringList());
+        QCOMPARE(treeOf(*reading.entity()), u"A\n  B\n"_s);
+        QCOMPARE(reading.entity()->entityAttributes()->GetEntityUserDefined1(1), u"two"_s);
+    }
+
     void itIsSplitAtTheDelimiterElseAtSemicolonElseAtComma_data()
     {
         QTest::addColumn<QByteArray>("between");

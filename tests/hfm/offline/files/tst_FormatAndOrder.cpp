@@ -78,6 +78,25 @@ private Q_SLOTS:
         QCOMPARE(metadata->GetCustom4Dimension()->EnumAllMembers().size(), 2);
     }
 
+    void emptyNamesInTheCustomOrderAreSkipped()
+    {
+        const Reading reading = readText("!CUSTOM_ORDER=;Movement;; ;Product;\n"
+                                         "!HIERARCHIES=Movement\n;m;1\n"
+                                         "!HIERARCHIES=Product\n;p;1\n");
+        QCOMPARE(treeOf(*reading.custom1()), u"m\n[None]\n"_s);
+        QCOMPARE(treeOf(*reading.custom2()), u"p\n[None]\n"_s);
+    }
+
+    void aSecondCustomOrderIsIgnored()
+    {
+        const Reading reading = readText("!CUSTOM_ORDER=Movement;Product\n"
+                                         "!CUSTOM_ORDER=Product;Movement\n"
+                                         "!HIERARCHIES=Movement\n;m;1\n"
+                                         "!HIERARCHIES=Product\n;p;1\n");
+        QCOMPARE(treeOf(*reading.custom1()), u"m\n[None]\n"_s);
+        QCOMPARE(treeOf(*reading.custom2()), u"p\n[None]\n"_s);
+    }
+
     void itMayStandAfterTheAccountsAndAfterItsDimensions()
     {
         const Reading reading = readText(

@@ -63,6 +63,69 @@ private Q_SLOTS:
         QCOMPARE(topLevel(*unlisted.custom2()), QStringList({u"[None]"_s, u"EUR"_s, u"CHF"_s}));
     }
 
+    void theFirstDefaultCurrencyOfTheSettingsHolds()
+    {
+        const Reading reading =
+            readText("!APPLICATION_SETTINGS\nDefaultCurrency=CHF\nDefaultCurrency=SEK\n"
+                     "!CURRENCIES\nEUR;0\n" +
+                     entities);
+        QVERIFY(reading.warnsOnlyOf(2, {u"CHF"_s}));
+        QCOMPARE(topLevel(*reading.custom2()), QStringList({u"[None]"_s, u"EUR"_s, u"CHF"_s}));
+    }
+
+    void theFirstRecordOfACurrencyHolds()
+    {
+        const Reading reading = readText("!CURRENCIES\nEUR;0;English=Euro\nUSD;0\n"
+                                         "eur;0;English=Another\n" +
+                                         entities);
+        QVERIFY(reading.warnsOnlyOf(4, {u"eur"_s}));
+        const auto custom = reading.custom2();
+        QCOMPARE(topLevel(*custom), QStringList({u"[None]"_s, u"EUR"_s, u"USD"_s}));
+        QCOMPARE(custom->GetMemberDescription(custom->GetMemberId(u"EUR"_s), 0), u"Euro"_s);
+    }
+
+    void theSettingsCurrencyStandsBeforeThoseThatOnlyEntitiesName()
+    {
+        const Reading reading =
+            readText("!MEMBERS=Entity\nA;SEK;DefaultParent=#root\nB;CHF;DefaultParent=#root\n"
+                     "C;NOK;DefaultParent=#root\n!HIERARCHIES=Entity\n;A\n;B\n;C\n"
+                     "!APPLICATION_SETTINGS\nDefaultCurrency=CHF\n!CURRENCIES\nEUR;0\n");
+        QCOMPARE(topLevel(*reading.custom2()),
+                 QStringList({u"[None]"_s, u"EUR"_s, u"CHF"_s, u"SEK"_s, u"NOK"_s}));
+    }
+
+    void noneIsNoCurrencyWhereverAFileNamesIt_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("listed") << QByteArray("!CURRENCIES\n[None];0;;Y;English=Nothing\nEUR;0\n"
+                                              "!MEMBERS=Entity\nA;DefaultParent=#root\n"
+                                              "!HIERARCHIES=Entity\n;A\n");
+        QTest::newRow("of an entity") << QByteArray("!CURRENCIES\nEUR;0\n!MEMBERS=Entity\n"
+                                                    "A;[NONE];DefaultParent=#root\n"
+                                                    "!HIERARCHIES=Entity\n;A\n");
+        QTest::newRow("of the settings")
+            << QByteArray("!APPLICATION_SETTINGS\nDefaultCurrency=[None]\n!CURRENCIES\nEUR;0\n"
+                          "!MEMBERS=Entity\nA;[None];DefaultParent=#root\n"
+                          "!HIERARCHIES=Entity\n;A\n");
+    }
+
+    void noneIsNoCurrencyWhereverAFileNamesIt()
+    {
+        QFETCH(QByteArray, text);
+        const Reading reading = readText(text);
+        QCOMPARE(reading.warnings(), QStringList());
+        const auto value = reading.value();
+        const auto currency = reading.entity()->entityAttributes()->GetEntityCurrencyId(0);
+        QCOMPARE(value->GetMemberLabel(currency), u"[None]"_s);
+        QCOMPARE(topLevel(*value),
+                 QStringList({u"[None]"_s, u"[Contribution Total]"_s, u"EUR Total"_s}));
+        QVERIFY(!value->EnumAllMemberLabels().contains(u"[None] Total"_s));
+        const auto custom = reading.custom2();
+        QCOMPARE(topLevel(*custom), QStringList({u"[None]"_s, u"EUR"_s}));
+        const auto list = custom->GetMemberListId(u"[Currencies]"_s);
+        QCOMPARE(custom->EnumMemberListMembers(list, hfm::rootMember).size(), 1);
+    }
+
     void methodsAreCountedBecauseTheirComparisonHoldsAnEqualsSign_data()
     {
         QTest::addColumn<QByteArray>("record");

@@ -57,6 +57,24 @@ private Q_SLOTS:
         QCOMPARE(reading.account()->accountAttributes()->GetAccountType(0), 2);
     }
 
+    void columnsPerCustomDimension()
+    {
+        QByteArrayList names;
+        for (int i = 0; i < 256; ++i)
+            names.append("Dimension" + QByteArray(1000, 'x') + QByteArray::number(i));
+        QByteArrayList columns;
+        for (int i = 0; i < 60000; ++i)
+            columns.append("TopMember");
+        const Reading reading =
+            readText("!CUSTOM_ORDER=" + names.join(';') + "\n!MEMBERS=Account\n'Label;" +
+                     columns.join(';') + ';' + names[1] +
+                     "TopMember;DefaultParent;Descriptions\nA;M;DefaultParent=#root\n"
+                     "!HIERARCHIES=Account\n;A\n!HIERARCHIES=" +
+                     names[0] + "\n;M;1\n");
+        const auto view = reading.account()->accountAttributes();
+        QCOMPARE(view->GetAccountTopCustom1(0), reading.custom1()->GetMemberId(u"M"_s));
+    }
+
     void currenciesAndClassesAndTopMembers()
     {
         constexpr int many = 50000;

@@ -110,6 +110,16 @@ private Q_SLOTS:
                  QStringList{u"English"_s});
     }
 
+    void aDelimiterAtALanguagesEndIsNoPartOfItsName()
+    {
+        const QByteArray languages = "!LANGUAGES\nEnglish;\nFrench ; ;\nItalian\n";
+        const QStringList expected = {u"English"_s, u"French"_s, u"Italian"_s};
+        QCOMPARE(readTexts({entities, languages}).metadata()->GetLanguages(), expected);
+        const Reading reading = readText(languages + entities);
+        QCOMPARE(reading.metadata()->GetLanguages(), expected);
+        QCOMPARE(reading.entity()->GetMemberDescription(0, 0), u"The A"_s);
+    }
+
     void aProfilesLanguageIsFoundInDescriptionsInAnyCase()
     {
         const Reading reading = readTexts({entities, "!LANGUAGES\nENGLISH\n"});

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "NoSpreadsheet.h"
 #include "runtime/Clock.h"
 #include "runtime/ErrorTrap.h"
 #include "shell/Services.h"
@@ -35,6 +36,7 @@ private:
     {
     public:
         void run(const QString &) override {}
+        void open(const QString &) override {}
     };
     class Process final : public Program
     {
@@ -46,8 +48,9 @@ private:
     Clients mClients;
     Reader mPrompts;
     Nothing mLauncher;
+    NoSpreadsheet mSpreadsheet;
     SystemClock mClock;
     Process mProgram;
     ErrorTrap mTrap{mPrompts, mProgram};
-    Services mServices{mClients, mPrompts, mLauncher, mClock, mProgram, mTrap, {}};
+    Services mServices{mClients, mPrompts, mLauncher, mSpreadsheet, mClock, mProgram, mTrap, {}};
 };

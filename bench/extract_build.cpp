@@ -8,6 +8,7 @@
 #include "extract/frmExtract.h"
 #include "generator/ApplicationGenerator.h"
 #include "hfm/offline/OfflineDimension.h"
+#include "NoSpreadsheet.h"
 
 #include <QApplication>
 #include <QFile>
@@ -42,6 +43,7 @@ class NoLauncher final : public Launcher
 {
 public:
     void run(const QString &) override {}
+    void open(const QString &) override {}
 };
 
 class NoProgram final : public Program
@@ -138,10 +140,11 @@ double timeToShow(const std::shared_ptr<hfm::Dimension> &dimension)
     NoClients clients;
     NoPrompts prompts;
     NoLauncher launcher;
+    NoSpreadsheet spreadsheet;
     SystemClock clock;
     NoProgram program;
     ErrorTrap trap(prompts, program);
-    Services services{clients, prompts, launcher, clock, program, trap, {}};
+    Services services{clients, prompts, launcher, spreadsheet, clock, program, trap, {}};
     modGlobal global;
     global.gDimension = dimension;
     auto *window = new frmExtract(services, global);

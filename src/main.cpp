@@ -1,3 +1,4 @@
+#include "appinfo/FileSpreadsheet.h"
 #include "appinfo/frmApplicationInfo.h"
 #include "extract/frmExtract.h"
 #include "hfm/offline/dlgOfflineDialogs.h"
@@ -15,6 +16,7 @@
 #include "viewer/frmMetadataViewer.h"
 
 #include <QApplication>
+#include <QStandardPaths>
 
 namespace {
 
@@ -49,10 +51,12 @@ int main(int argc, char *argv[])
     SystemClock clock;
     const QString programFolder = QCoreApplication::applicationDirPath();
     DesktopLauncher launcher(programFolder + QStringLiteral("/help/pages/index.html"));
+    FileSpreadsheet spreadsheet(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+                                clock, launcher);
     hfm::offline::OfflineDialogs dialogs(hfm::offline::findSampleCluster(programFolder), clock,
                                          trap);
     hfm::offline::OfflineClientFactory clients(dialogs, dialogs);
-    Services services{clients, prompts, launcher, clock, program, trap, programFolder};
+    Services services{clients, prompts, launcher, spreadsheet, clock, program, trap, programFolder};
 
     modGlobal global;
     WindowInstance<frmApplicationInfo> applicationInfo(

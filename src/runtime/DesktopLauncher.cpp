@@ -9,6 +9,8 @@
 
 namespace {
 
+constexpr QLatin1StringView desktopViewer("xdg-open");
+
 struct Command
 {
     QString program;
@@ -54,7 +56,6 @@ DesktopLauncher::DesktopLauncher(QString webPage) : mWebPage(std::move(webPage))
 void DesktopLauncher::run(const QString &commandLine)
 {
     const auto [program, path] = parsed(commandLine);
-    const QString desktopViewer = QStringLiteral("xdg-open");
     if (start(program, path))
         return;
     if (path.isEmpty())
@@ -63,5 +64,17 @@ void DesktopLauncher::run(const QString &commandLine)
         throw RuntimeError::naming(FileNotFound, path);
     const bool isWebPageBetter = QFileInfo(mWebPage).isFile() && !desktopHasViewer(path);
     if (!start(desktopViewer, isWebPageBetter ? mWebPage : path))
-        throw RuntimeError::naming(FileNotFound, program + QStringLiteral(", ") + desktopViewer);
+        throw RuntimeError::naming(FileNotFound, program + QLatin1StringView(", ") + desktopViewer);
+}
+
+void DesktopLauncher::open(const QString &file)
+{
+    if (!QFileInfo(file).isFile())
+        throw RuntimeError::naming(FileNotFound, file);
+    // The desktop's viewer says only to itself that it knows no program for a file.
+    if (!desktopHasViewer(file))
+        throw RuntimeError::naming(FileNotFound, QLatin1StringView("a program for ") +
+                                                     QMimeDatabase().mimeTypeForFile(file).name());
+    if (!start(desktopViewer, file))
+        throw RuntimeError::naming(FileNotFound, desktopViewer);
 }

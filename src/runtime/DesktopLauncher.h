@@ -16,6 +16,7 @@ public:
     /// and that by the browser with the web page.
     /// Fails with RuntimeError FileNotFound, naming the file or the programs that are missing.
     void run(const QString &commandLine) override;
+    void open(const QString &file) override;
 
 private:
     QString mWebPage;

@@ -1,7 +1,7 @@
 #include "runtime/FileWriter.h"
 
 #include "runtime/CodePage.h"
-#include "runtime/RuntimeError.h"
+#include "runtime/SystemError.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -16,25 +16,6 @@ namespace {
 /// So many characters are encoded at a time: a long text needs no second copy of itself in memory,
 /// and what was encoded is still near the processor when it is written.
 constexpr qsizetype blockLength = 1 << 17;
-
-RuntimeError errorFromSystem(int systemError, const QString &path)
-{
-    switch (systemError) {
-    case ENOENT:
-    case ENOTDIR:
-        return RuntimeError::naming(PathNotFound, path);
-    case EACCES:
-    case EPERM:
-    case EROFS:
-        return RuntimeError::naming(PermissionDenied, path);
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-        return RuntimeError::naming(DiskFull, path);
-    default:
-        return RuntimeError::naming(PathFileAccessError, path);
-    }
-}
 
 /// A name that the file system cannot hold as it was typed would be shortened or changed on its
 /// way, and another file written.

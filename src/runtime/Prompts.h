@@ -5,7 +5,7 @@
 /// A question or a message for the user, as a message box shows it.
 struct Prompt
 {
-    enum class Icon { None, Critical, Exclamation, Information };
+    enum class Icon { None, Critical, Question, Exclamation, Information };
     enum class Buttons { Ok, OkCancel, YesNo };
 
     QString title;

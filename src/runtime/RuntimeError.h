@@ -20,6 +20,7 @@ enum ErrorNumber : qint32 {
     PathNotFound = 76,
     ObjectVariableNotSet = 91,
     CannotCreateObject = 429,
+    ApplicationDefinedError = 1004, ///< the spreadsheet's, for a cell that is not there
 };
 
 /// What an HFM operation, a file or a conversion fails with.

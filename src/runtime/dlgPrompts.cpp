@@ -13,6 +13,8 @@ QMessageBox::Icon iconOf(Prompt::Icon icon)
     switch (icon) {
     case Prompt::Icon::Critical:
         return QMessageBox::Critical;
+    case Prompt::Icon::Question:
+        return QMessageBox::Question;
     case Prompt::Icon::Exclamation:
         return QMessageBox::Warning;
     case Prompt::Icon::Information:

@@ -6,6 +6,7 @@
 #include "runtime/Launcher.h"
 #include "runtime/Program.h"
 #include "runtime/Prompts.h"
+#include "runtime/Spreadsheet.h"
 
 /// What the windows need from outside the program. Made once, in main.cpp, and lives as long as
 /// every window.
@@ -14,6 +15,7 @@ struct Services
     hfm::ClientFactory &clients;
     Prompts &prompts;
     Launcher &launcher;
+    Spreadsheet &spreadsheet;
     Clock &clock;
     Program &program;
     ErrorTrap &trap;

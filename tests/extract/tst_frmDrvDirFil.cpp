@@ -369,8 +369,9 @@ private Q_SLOTS:
                                                        : Prompts::Answer::Cancel;
         };
         ErrorTrap trap(prompts, mFake->program);
-        Services services{mFake->hfm,     prompts, mFake->launcher, mFake->clock,
-                          mFake->program, trap,    program()};
+        Services services{
+            mFake->hfm,     prompts, mFake->launcher, mFake->spreadsheet, mFake->clock,
+            mFake->program, trap,    program()};
         delete mDialog;
         mDialog = new frmDrvDirFil(services, *mGlobal, &owner);
         mDialog->show();
@@ -607,8 +608,9 @@ private Q_SLOTS:
             return Prompts::Answer::Ok;
         };
         ErrorTrap trap(prompts, mFake->program);
-        Services services{mFake->hfm,     prompts, mFake->launcher, mFake->clock,
-                          mFake->program, trap,    program()};
+        Services services{
+            mFake->hfm,     prompts, mFake->launcher, mFake->spreadsheet, mFake->clock,
+            mFake->program, trap,    program()};
         delete mDialog;
         mDialog = new frmDrvDirFil(services, *mGlobal);
         mDialog->show();

@@ -23,6 +23,17 @@ QString errorOfRunning(const QString &commandLine)
 
 } // namespace
 
+/// The same of opening a file.
+QString errorOfOpening(const QString &file)
+{
+    try {
+        DesktopLauncher().open(file);
+    } catch (const RuntimeError &error) {
+        return QStringLiteral("%1 %2").arg(error.number()).arg(error.description());
+    }
+    return QStringLiteral("none");
+}
+
 /// The PATH is one folder of small scripts that note what they were started with.
 class tst_DesktopLauncher : public QObject
 {
@@ -158,6 +169,54 @@ private Q_SLOTS:
         addFile("bin/hh.exe");
         QCOMPARE(errorOfRunning(QStringLiteral("hh.exe")),
                  QStringLiteral("53 File not found: hh.exe"));
+    }
+
+    void aFileIsOpenedByTheDesktop()
+    {
+        addProgram("xdg-open");
+        addFile("a  b\\c.xlsx");
+        DesktopLauncher().open(at("a  b\\c.xlsx"));
+        QTRY_COMPARE(started("xdg-open"), "[" + at("a  b\\c.xlsx").toUtf8() + "]");
+    }
+
+    void theDesktopIsAskedWhetherItKnowsAProgramForTheFile()
+    {
+        addProgram("xdg-open");
+        addProgram("xdg-mime", "#!/bin/sh\necho \"$@\" >'" + at("asked").toLocal8Bit() +
+                                   "'\necho calc.desktop\n");
+        addFile("b.xlsx");
+        DesktopLauncher().open(at("b.xlsx"));
+        QTRY_COMPARE(started("xdg-open"), "[" + at("b.xlsx").toUtf8() + "]");
+        QFile asked(at("asked"));
+        QVERIFY(asked.open(QIODevice::ReadOnly));
+        QCOMPARE(asked.readAll(),
+                 QByteArray("query default application/"
+                            "vnd.openxmlformats-officedocument.spreadsheetml.sheet\n"));
+    }
+
+    void aDesktopWithoutAProgramForTheFileIsToldAtOnce()
+    {
+        addProgram("xdg-open");
+        addProgram("xdg-mime", "#!/bin/sh\n");
+        addFile("b.xlsx");
+        QCOMPARE(errorOfOpening(at("b.xlsx")),
+                 QStringLiteral("53 File not found: a program for application/"
+                                "vnd.openxmlformats-officedocument.spreadsheetml.sheet"));
+        QVERIFY(!QFile::exists(at("xdg-open.started")));
+    }
+
+    void withoutADesktopAFileIsNotOpened()
+    {
+        addFile("b.xlsx");
+        QCOMPARE(errorOfOpening(at("b.xlsx")), QStringLiteral("53 File not found: xdg-open"));
+    }
+
+    void aFileThatIsNotThereIsNotOpened()
+    {
+        addProgram("xdg-open");
+        QCOMPARE(errorOfOpening(at("gone.xlsx")),
+                 QStringLiteral("53 File not found: ") + at("gone.xlsx"));
+        QVERIFY(!QFile::exists(at("xdg-open.started")));
     }
 
 private:

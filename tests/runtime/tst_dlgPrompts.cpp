@@ -71,6 +71,9 @@ private Q_SLOTS:
         QTest::newRow("information, OK")
             << Prompt{title, text, Prompt::Icon::Information, Prompt::Buttons::Ok}
             << int(QMessageBox::Information) << ok;
+        QTest::newRow("question, Yes and No")
+            << Prompt{title, text, Prompt::Icon::Question, Prompt::Buttons::YesNo}
+            << int(QMessageBox::Question) << yesNo;
         QTest::newRow("exclamation, OK and Cancel")
             << Prompt{title, text, Prompt::Icon::Exclamation, Prompt::Buttons::OkCancel}
             << int(QMessageBox::Warning) << okCancel;

@@ -136,13 +136,8 @@ private Q_SLOTS:
     {
         FakeServices &fakes = mMain->fakes;
         dlgPrompts prompts(fakes.program);
-        Services services{fakes.hfm,
-                          prompts,
-                          fakes.launcher,
-                          fakes.clock,
-                          fakes.program,
-                          fakes.trap,
-                          fakes.services.programFolder};
+        Services services{fakes.hfm,   prompts,       fakes.launcher, fakes.spreadsheet,
+                          fakes.clock, fakes.program, fakes.trap,     fakes.services.programFolder};
         mMain->window = new frmMain(mMain->state, services, mMain->allTools());
         QVERIFY(mMain->show());
         QStringList messages;

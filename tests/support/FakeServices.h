@@ -2,6 +2,7 @@
 
 #include "shell/Services.h"
 #include "support/FakeHfm.h"
+#include "support/FakeSpreadsheet.h"
 
 #include <QStringList>
 
@@ -49,11 +50,18 @@ class FakeLauncher final : public Launcher
 {
 public:
     QStringList commandLines;            ///< every one there was, in order
+    QStringList files;                   ///< every file that was to be opened, in order
     std::optional<RuntimeError> failure; ///< what each start fails with, where it is set
 
     void run(const QString &commandLine) override
     {
         commandLines.append(commandLine);
+        if (failure)
+            throw *failure;
+    }
+    void open(const QString &file) override
+    {
+        files.append(file);
         if (failure)
             throw *failure;
     }
@@ -78,9 +86,10 @@ struct FakeServices
     FakeHfm hfm;
     FakePrompts prompts;
     FakeLauncher launcher;
+    FakeSpreadsheet spreadsheet;
     FakeClock clock;
     FakeProgram program;
     ErrorTrap trap{prompts, program};
-    Services services{
-        hfm, prompts, launcher, clock, program, trap, QStringLiteral("/programs/Tessaly")};
+    Services services{hfm,   prompts, launcher, spreadsheet,
+                      clock, program, trap,     QStringLiteral("/programs/Tessaly")};
 };

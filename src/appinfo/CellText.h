@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QByteArray>
+#include <QStringView>
+
+/// The text of a workbook file's cell: XML in UTF-8 that writes a character which XML does not
+/// allow as _xHHHH_, its UTF-16 code (ECMA-376 Part 1, 22.9.2.19), and therefore a text that looks
+/// like that, such as "_x0041_", with its first '_' as _x005F_. Escaped are the control characters
+/// but for tab and line feed, lone surrogates, U+FFFE and U+FFFF. What else is special in XML
+/// is left as it is.
+namespace CellText {
+
+/// The most characters that a cell holds, in UTF-16 units; an escape counts with all its seven.
+constexpr qsizetype longest = 32'767;
+
+/// Appends `text`, whole characters and escapes of it up to the longest that a cell holds. False
+/// where that is not all of it.
+bool append(QStringView text, QByteArray &utf8);
+
+} // namespace CellText

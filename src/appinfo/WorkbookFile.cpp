@@ -1,0 +1,144 @@
+#include "appinfo/WorkbookFile.h"
+
+#include "appinfo/WorkbookWriter.h"
+#include "runtime/SystemError.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// "C7" for row 7, column 3.
+QString cellName(qint32 row, qint32 column)
+{
+    QString letters;
+    for (; column > 0; column = (column - 1) / 26)
+        letters.prepend(QChar(u'A' + (column - 1) % 26));
+    return letters + QString::number(row);
+}
+
+} // namespace
+
+class WorkbookFile::Sheet final : public Worksheet
+{
+public:
+    Sheet(const QString &spool, const QString &workbook)
+        : mCells(spool, workbook), mWorkbook(workbook)
+    {
+    }
+
+    void setCell(qint32 row, qint32 column, QStringView text) override
+    {
+        if (text.startsWith(u'\''))
+            text = text.sliced(1);
+        if (!mCells.setCell(row, column, text))
+            std::fprintf(stderr,
+                         "%s: the text of cell %s is longer than 32,767 characters and cut\n",
+                         qPrintable(mWorkbook), qPrintable(cellName(row, column)));
+    }
+    CellSpool &cells() { return mCells; }
+
+private:
+    CellSpool mCells;
+    QString mWorkbook;
+};
+
+namespace {
+
+const QString suffix = u".xlsx"_s;
+
+int lastError()
+{
+    return errno != 0 ? errno : EIO;
+}
+
+/// Makes a folder of its own beside the file.
+QString makeFolderBeside(const QString &path)
+{
+    const QString parent = QFileInfo(path).absolutePath();
+    QByteArray name = QFile::encodeName(parent + u"/.Tessaly Export XXXXXX"_s);
+    if (!mkdtemp(name.data()))
+        throw errorFromSystem(lastError(), path);
+    return QFile::decodeName(name);
+}
+
+/// Some file systems report a full disk only when the data must reach the disk.
+void bringToDisk(const QString &file, const QString &workbook)
+{
+    QFile written(file);
+    errno = 0;
+    if (!written.open(QIODevice::ReadOnly))
+        throw errorFromSystem(lastError(), workbook);
+    const bool isDone = fdatasync(written.handle()) == 0;
+    const bool deviceKnowsNoSync = errno == EINVAL || errno == ENOTSUP;
+    if (!isDone && !deviceKnowsNoSync)
+        throw errorFromSystem(errno, workbook);
+}
+
+} // namespace
+
+WorkbookFile::WorkbookFile(QString path)
+    : mBasePath(std::move(path)), mPath(mBasePath + suffix), mFolder(makeFolderBeside(mPath))
+{
+}
+
+WorkbookFile::~WorkbookFile()
+{
+    mSheets.clear();
+    QDir(mFolder).removeRecursively();
+}
+
+Worksheet &WorkbookFile::addWorksheet()
+{
+    const QString spool = inFolder(u"cells"_s + QString::number(mSheets.size()));
+    mSheets.push_back(std::make_unique<Sheet>(spool, mPath));
+    return *mSheets.back();
+}
+
+void WorkbookFile::complete()
+{
+    const QString file = inFolder(u"workbook"_s);
+    write(file);
+    bringToDisk(file, mPath);
+    moveInPlace(file);
+}
+
+QString WorkbookFile::inFolder(const QString &name) const
+{
+    return mFolder + u'/' + name;
+}
+
+void WorkbookFile::write(const QString &file)
+{
+    qint64 mostXmlBytes = 0;
+    for (const auto &sheet : mSheets) {
+        sheet->cells().endWriting();
+        mostXmlBytes += sheet->cells().mostXmlBytes();
+    }
+    WorkbookWriter writer(file, mFolder, mPath, mostXmlBytes);
+    writer.addEmptySheet();
+    for (const auto &sheet : mSheets)
+        writer.addSheet(sheet->cells());
+    mSheets.clear(); // which frees the room that the library needs next
+    writer.close();
+}
+
+void WorkbookFile::moveInPlace(const QString &file)
+{
+    for (int number = 2;; ++number) {
+        errno = 0;
+        QFile whole(file);
+        if (whole.rename(mPath)) // which replaces nothing
+            return;
+        const int error = lastError();
+        if (!QFileInfo::exists(mPath) && !QFileInfo(mPath).isSymLink())
+            throw errorFromSystem(error, mPath);
+        mPath = mBasePath + u" ("_s + QString::number(number) + u')' + suffix;
+    }
+}

@@ -1,0 +1,124 @@
+#include "appinfo/WorkbookWriter.h"
+
+#include "appinfo/CellSpool.h"
+#include "runtime/SystemError.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <xlsxwriter.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What plain zip files hold. Beyond it they need an extension that not every program reads.
+constexpr qint64 mostPlainZipBytes = 4'000'000'000;
+/// What a sheet has around its rows, with room to spare.
+constexpr qint64 mostBytesAroundRows = 2048;
+
+int lastError()
+{
+    return errno != 0 ? errno : EIO;
+}
+
+} // namespace
+
+WorkbookWriter::WorkbookWriter(const QString &file, const QString &temporaries, QString workbook,
+                               qint64 mostXmlBytes)
+    : mFile(QFile::encodeName(file)), mTemporaries(QFile::encodeName(temporaries)),
+      mWorkbook(std::move(workbook))
+{
+    lxw_workbook_options options{};
+    options.constant_memory = LXW_TRUE;
+    options.tmpdir = mTemporaries.data();
+    options.use_zip64 = mostXmlBytes > mostPlainZipBytes;
+    mBook = workbook_new_opt(mFile.constData(), &options);
+    if (!mBook)
+        throw RuntimeError(OutOfMemory);
+}
+
+WorkbookWriter::~WorkbookWriter()
+{
+    if (mBook)
+        lxw_workbook_free(mBook);
+}
+
+lxw_worksheet *WorkbookWriter::makeSheet()
+{
+    errno = 0;
+    lxw_worksheet *const sheet = workbook_add_worksheet(mBook, nullptr);
+    if (!sheet)
+        throw errorFromSystem(lastError(), mWorkbook);
+    return sheet;
+}
+
+void WorkbookWriter::addEmptySheet()
+{
+    makeSheet();
+}
+
+void WorkbookWriter::addSheet(CellSpool &cells)
+{
+    lxw_worksheet *const sheet = makeSheet();
+    worksheet_activate(sheet);
+    for (qint32 row = 1; row <= cells.rowCount(); ++row)
+        cells.visitRow(row, [&](qint32 column, const char *text) {
+            check(worksheet_write_string(sheet, lxw_row_t(row - 1), lxw_col_t(column - 1), text,
+                                         nullptr));
+        });
+    finishRows(sheet);
+}
+
+/// The cells are such that only memory can be missing.
+void WorkbookWriter::check(int libraryError)
+{
+    if (libraryError != LXW_NO_ERROR)
+        throw RuntimeError(
+            libraryError == LXW_ERROR_MEMORY_MALLOC_FAILED ? OutOfMemory : PathFileAccessError,
+            u"libxlsxwriter"_s,
+            QString::fromUtf8(lxw_strerror(lxw_error(libraryError))) + u": "_s + mWorkbook);
+}
+
+/// The library writes the rows to a temporary file and never asks whether that went well.
+void WorkbookWriter::finishRows(lxw_worksheet *sheet)
+{
+    lxw_worksheet_write_single_row(sheet); // the last one
+    errno = 0;
+    const bool isWritten = std::fflush(sheet->optimize_tmpfile) == 0;
+    if (!isWritten || std::ferror(sheet->optimize_tmpfile))
+        throw errorFromSystem(errno != 0 ? errno : ENOSPC, mWorkbook);
+    mLargestSheet = std::max<qint64>(mLargestSheet, ftello(sheet->optimize_tmpfile));
+}
+
+/// Closing copies each sheet to one more temporary file, out of sight. A place for it is taken and
+/// given back beforehand.
+void WorkbookWriter::makeSureOfRoom()
+{
+    QFile room(QFile::decodeName(mTemporaries) + u"/room"_s);
+    errno = 0;
+    if (!room.open(QIODevice::WriteOnly))
+        throw errorFromSystem(lastError(), mWorkbook);
+    const int error = posix_fallocate(room.handle(), 0, mLargestSheet + mostBytesAroundRows);
+    room.remove();
+    if (error != 0)
+        throw errorFromSystem(error, mWorkbook);
+}
+
+void WorkbookWriter::close()
+{
+    makeSureOfRoom();
+    errno = 0;
+    const lxw_error error =
+        workbook_close(std::exchange(mBook, nullptr)); // frees it, come what may
+    const int systemError = errno;
+    if (error == LXW_NO_ERROR)
+        return;
+    if (error == LXW_ERROR_MEMORY_MALLOC_FAILED)
+        throw RuntimeError(OutOfMemory);
+    throw errorFromSystem(systemError != 0 ? systemError : EIO, mWorkbook);
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+class CellSpool;
+struct lxw_workbook;
+struct lxw_worksheet;
+
+/// Writes an .xlsx file through libxlsxwriter, one row in memory at a time. Where the library
+/// looks away, this looks: its temporary files on a full disk, above all.
+class WorkbookWriter
+{
+public:
+    /// `temporaries` is the folder for temporary files, `workbook` what the errors name.
+    /// `mostXmlBytes` is how large the sheets can become. Fails as errorFromSystem() tells.
+    WorkbookWriter(const QString &file, const QString &temporaries, QString workbook,
+                   qint64 mostXmlBytes);
+    ~WorkbookWriter();
+    Q_DISABLE_COPY_MOVE(WorkbookWriter)
+
+    void addEmptySheet();
+    /// Adds a sheet with these cells, which is the one in front from now on.
+    void addSheet(CellSpool &cells);
+    /// Writes the file; the last call. Fails as errorFromSystem() tells.
+    void close();
+
+private:
+    lxw_worksheet *makeSheet();
+    void check(int libraryError);
+    void finishRows(lxw_worksheet *sheet);
+    void makeSureOfRoom();
+
+    QByteArray mFile;
+    QByteArray mTemporaries;
+    QString mWorkbook;
+    lxw_workbook *mBook;
+    qint64 mLargestSheet = 0; ///< in bytes
+};

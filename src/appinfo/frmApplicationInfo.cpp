@@ -92,6 +92,8 @@ void frmApplicationInfo::connectMemberLists()
                                [this, i] { showList(ApplicationDimension(i), true); });
     mServices.trap.connect(mMemberLists.cboParentMembers, &QComboBox::activated, this,
                            [this] { cboParentMembers_Click(); });
+    mServices.trap.connect(mMemberLists.cmdSendListToExcel, &QPushButton::clicked, this,
+                           [this] { cmdSendListToExcel_Click(); });
 }
 
 void frmApplicationInfo::connectSecurity()
@@ -99,6 +101,8 @@ void frmApplicationInfo::connectSecurity()
     connectChoice(mSecurity.lstRoles, &frmApplicationInfo::lstRoles_Click);
     connectChoice(mSecurity.lstSecurityClasses, &frmApplicationInfo::lstSecurityClasses_Click);
     connectChoice(mSecurity.lstUsers, &frmApplicationInfo::lstUsers_Click);
+    mServices.trap.connect(mSecurity.cmdSendToExcel, &QPushButton::clicked, this,
+                           [this] { cmdSendToExcel_Click(); });
 }
 
 void frmApplicationInfo::connectOptions(const QList<QRadioButton *> &options, int first,

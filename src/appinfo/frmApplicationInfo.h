@@ -56,6 +56,9 @@ private:
     void lstRoles_Click(const QString &role);
     void lstSecurityClasses_Click(const QString &securityClass);
     void lstUsers_Click(const QString &user);
+    void cmdSendToExcel_Click();
+    void cmdSendListToExcel_Click();
+    void exportList();
 
     Services &mServices;
     modGlobal &mGlobal;

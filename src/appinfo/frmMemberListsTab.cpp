@@ -31,7 +31,6 @@ frmMemberListsTab::frmMemberListsTab(QWidget *page)
     lstMembersInList->setSelectionMode(QAbstractItemView::ExtendedSelection);
     QLabel *denote = makeLabel(page, "lblDenote", u"** Denotes Parent Member"_s);
     cmdSendListToExcel = makeButton(page, "cmdSendListToExcel", u"Send to E&xcel -->"_s);
-    cmdSendListToExcel->setEnabled(false);
 
     auto *foot = new QHBoxLayout;
     foot->addWidget(denote);

@@ -39,7 +39,6 @@ frmSecurityTab::frmSecurityTab(ErrorTrap &trap, QWidget *page)
     lstTemp = makeHiddenList(page, "lstTemp");
     lstTemp2 = makeHiddenList(page, "lstTemp2");
     cmdSendToExcel = makeButton(page, "cmdSendToExcel", u"Send to E&xcel -->"_s);
-    cmdSendToExcel->setEnabled(false);
 
     auto *layout = new QGridLayout(page);
     layout->addWidget(users, 0, 0, 1, 2);

@@ -168,6 +168,11 @@ void TabControls::setLines(QAbstractItemView *list, const QStringList &lines)
     static_cast<QStringListModel *>(list->model())->setStringList(lines);
 }
 
+QStringList TabControls::lines(const QAbstractItemView *list)
+{
+    return static_cast<const QStringListModel *>(list->model())->stringList();
+}
+
 QList<QRadioButton *> TabControls::makeOptions(QWidget *parent, const char *name, int first,
                                                const QStringList &captions)
 {

@@ -45,6 +45,7 @@ QListView *makeListBox(QWidget *parent, const char *name, const QString &accessi
 /// Makes `list` such a list.
 void setUpListBox(QListView *list, const char *name, const QString &accessibleName);
 void setLines(QAbstractItemView *list, const QStringList &lines);
+QStringList lines(const QAbstractItemView *list);
 
 /// Option buttons `name`_first, `name`_first+1, ...: one for each caption, none of them chosen.
 QList<QRadioButton *> makeOptions(QWidget *parent, const char *name, int first,

@@ -1,15 +1,12 @@
 #include "viewer/TopMemberView.h"
 
-#include "runtime/RuntimeError.h"
+#include "viewer/NodeText.h"
 
 #include <algorithm>
 
 QString TopMemberView::name(QStringView nodeText)
 {
-    const qsizetype length = nodeText.indexOf(u'-') - 1;
-    if (length < 0)
-        throw RuntimeError(InvalidProcedureCall);
-    return nodeText.first(length).toString();
+    return NodeText::labelOf(nodeText).toString();
 }
 
 // The walk keeps its own stack: hierarchies can be deeper than the thread's.

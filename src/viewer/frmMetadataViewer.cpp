@@ -37,6 +37,8 @@ void frmMetadataViewer::connectControls()
                  [this](int option) { attributesClicked(option); });
     trap.connect(mControls.expandedAttributes, &QCheckBox::clicked, this, [this] { rebuild(); });
     trap.connect(mControls.expandAll, &QPushButton::clicked, this, [this] { expandAll(); });
+    trap.connect(mControls.sendToExcel, &QPushButton::clicked, this,
+                 [this] { ExportTreeToExcel(); });
     trap.connect(mControls.removeTopMember, &QPushButton::clicked, this,
                  [this] { removeTopMember(); });
     trap.connect(mControls.topMemberEntry, &QAction::triggered, this, [this] { setTopMember(); });
@@ -64,7 +66,6 @@ void frmMetadataViewer::load()
     mControls.topMember->hide();
     mControls.normalTreeViewEntry->setVisible(false);
     mControls.rerunEntityFilters->setEnabled(false);
-    mControls.sendToExcel->setEnabled(false);
     mControls.applicationPanel->setText(ViewerRules::applicationPanel(mGlobal.gApplicationName));
     mControls.dimension->setText(
         ViewerRules::dimensionCaption(required(mGlobal.gDimension).GetDimensionName()));
@@ -125,10 +126,14 @@ void frmMetadataViewer::filterSwitchClicked(int option)
 
 void frmMetadataViewer::expandAll()
 {
-    MemberTreeView *tree = mControls.members->isHidden() ? mControls.topMember : mControls.members;
     frmViewerHourglass hourglass(this);
-    tree->expandBelow({});
+    visibleTree()->expandBelow({});
     hourglass.done();
+}
+
+MemberTreeView *frmMetadataViewer::visibleTree() const
+{
+    return mControls.members->isHidden() ? mControls.topMember : mControls.members;
 }
 
 void frmMetadataViewer::setTopMember()

@@ -51,6 +51,8 @@ private:
     void removeTopMember();
     void expandAll();
     void showMenu(const MemberTreeView *tree, const QPoint &globalPosition);
+    MemberTreeView *visibleTree() const;
+    void ExportTreeToExcel();
 
     Services &mServices;
     modGlobal &mGlobal;

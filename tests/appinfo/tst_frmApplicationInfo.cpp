@@ -207,11 +207,13 @@ private Q_SLOTS:
         QVERIFY(mOpen->isWell());
     }
 
-    void theSpreadsheetButtonsAreOff()
+    void theListsSpreadsheetButtonIsOnAndTheSecuritysOffWithItsTab()
     {
         mOpen->open();
+        QVERIFY(control<QPushButton>("cmdSendListToExcel")->isEnabled());
         QVERIFY(!control<QPushButton>("cmdSendToExcel")->isEnabled());
-        QVERIFY(!control<QPushButton>("cmdSendListToExcel")->isEnabled());
+        mOpen->tabs()->setTabEnabled(0, true);
+        QVERIFY(control<QPushButton>("cmdSendToExcel")->isEnabled());
     }
 
     void theLinesForTheSpreadsheetAreHidden()

@@ -182,7 +182,7 @@ private Q_SLOTS:
         QVERIFY(find<QAction>("mnuTopMember")->isVisible());
         QVERIFY(!find<QAction>("mnuNormalTreeView")->isVisible());
         QVERIFY(!menu()->isVisible());
-        QVERIFY(!find<QPushButton>("cmdSendToExcel")->isEnabled());
+        QVERIFY(find<QPushButton>("cmdSendToExcel")->isEnabled());
     }
 
     void theTotalIsOneMoreThanTheOccurrences()

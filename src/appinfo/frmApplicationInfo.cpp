@@ -135,7 +135,7 @@ void frmApplicationInfo::Form_Load()
 
 void frmApplicationInfo::load()
 {
-    mRoutine = u"Form.Load"_s;
+    mRoutine = LoadRoutines::formLoad();
     mRolesMenu->menuAction()->setVisible(false);
     mTabs->setTabEnabled(securityTab, false);
     mTabs->setCurrentIndex(sharedMembersTab);
@@ -145,7 +145,7 @@ void frmApplicationInfo::load()
 
 void frmApplicationInfo::PopulateMemberListNames()
 {
-    mRoutine = u"PopulateMemberListNames"_s;
+    mRoutine = LoadRoutines::populateMemberListNames();
     for (int i = 0; i < ApplicationDimensions::count; ++i) {
         const auto dimension = ApplicationDimension(i);
         TabControls::setEntries(mMemberLists.listsOf(dimension),

@@ -133,8 +133,11 @@ void frmApplicationInfo::showList(ApplicationDimension dimensionKind, bool refre
     }
     TabControls::setLines(mMemberLists.lstMembersInList, ListMembers::lines(dimension, members));
     mMemberLists.lblMembersInList->setText(ListMembers::heading(word, name, members.size()));
-    if (refreshesParents)
-        TabControls::setEntries(parents, QStringList{QString()} + parentLabels(dimension), 0);
+    if (refreshesParents) {
+        const QStringList none{QString()};
+        TabControls::setEntries(parents, none, 0);
+        TabControls::setEntries(parents, none + parentLabels(dimension), 0);
+    }
 }
 
 // Security.

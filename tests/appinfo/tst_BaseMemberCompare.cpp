@@ -55,6 +55,17 @@ private Q_SLOTS:
         QCOMPARE(missing(entity, u"q"_s, u"p"_s), QStringList({u"D"_s, QString()}));
     }
 
+    void theFirstParentsMembersAreReadBeforeTheSecondsAreLookedUp()
+    {
+        FakeDimension &entity = dimension(u"P\n  A\nQ\n  A\n"_s);
+        missing(entity, u"P"_s, u"Q"_s);
+        QCOMPARE(mHfm.calls().made(), QStringList({u"GetMemberId"_s, u"EnumBaseMembers"_s,
+                                                   u"GetMemberId"_s, u"EnumBaseMembers"_s}));
+        const auto error = errorOf([&] { missing(entity, u"X"_s, u"Y"_s); });
+        QVERIFY(error);
+        QCOMPARE(error->description(), u"'X' is not a member of Entity."_s);
+    }
+
     void theSameParentTwiceGivesNothing()
     {
         FakeDimension &entity = dimension(u"P\n  A\n  B\n"_s);

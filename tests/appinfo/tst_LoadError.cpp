@@ -9,6 +9,12 @@ class tst_LoadError : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void theGuardedRoutinesHaveTheseNames()
+    {
+        QCOMPARE(LoadRoutines::formLoad(), u"Form.Load"_s);
+        QCOMPARE(LoadRoutines::populateMemberListNames(), u"PopulateMemberListNames"_s);
+    }
+
     void itsSixLinesStandApartByCarriageReturnsAlone()
     {
         const RuntimeError error(5, u"HFM"_s, u"The server is gone."_s);

@@ -46,6 +46,19 @@ private Q_SLOTS:
         QCOMPARE(MemberLists::offered(account), QStringList());
     }
 
+    void moreThan32767ListsOverflow()
+    {
+        FakeDimension &account = dimension(u"A\n"_s);
+        account.clearLists();
+        for (int i = 0; i < 32'767; ++i)
+            account.addUserList(QString::number(i), {});
+        QCOMPARE(MemberLists::offered(account).size(), 32'767);
+        account.addSystemList(u"[System]"_s, {}); // counts, though it is not offered
+        const auto error = errorOf([&] { MemberLists::offered(account); });
+        QVERIFY(error);
+        QCOMPARE(error->number(), Overflow);
+    }
+
     void aSystemListsNameBeginsWithABracket()
     {
         QVERIFY(MemberLists::isSystemList(u"[Base]"_s));

@@ -120,6 +120,48 @@ private Q_SLOTS:
         QCOMPARE(SecurityAccess::ofUser(*mSecurity, u"admin"_s), expected);
     }
 
+    void moreThan32767NamesOverflow_data()
+    {
+        QTest::addColumn<int>("question");
+        QTest::newRow("the users of a role") << 0;
+        QTest::newRow("the users of a class") << 1;
+        QTest::newRow("the roles of a user") << 2;
+        QTest::newRow("the classes of a user") << 3;
+    }
+    void moreThan32767NamesOverflow()
+    {
+        QFETCH(const int, question);
+        FakeSecurity &security = *mHfm.newApplication().security;
+        const QString one = u"first"_s;
+        security.addUser(one);
+        security.addRole(one);
+        security.addClass(one);
+        const auto add = [&](int number) {
+            const QString name = QString::number(number);
+            if (question < 2)
+                security.addUser(name);
+            else if (question == 2)
+                security.addRole(name);
+            else
+                security.addClass(name);
+        };
+        const auto ask = [&] {
+            if (question == 0)
+                SecurityAccess::ofRole(security, one);
+            else if (question == 1)
+                SecurityAccess::ofClass(security, one);
+            else
+                SecurityAccess::ofUser(security, one);
+        };
+        for (int number = 2; number <= 32'767; ++number)
+            add(number);
+        QVERIFY(!errorOf(ask));
+        add(32'768);
+        const auto error = errorOf(ask);
+        QVERIFY(error);
+        QCOMPARE(error->number(), Overflow);
+    }
+
     void anUnknownNameIsTheClientsError()
     {
         QVERIFY(errorOf([&] { SecurityAccess::ofRole(*mSecurity, u"nobody"_s); }));

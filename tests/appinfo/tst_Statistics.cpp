@@ -179,6 +179,20 @@ private Q_SLOTS:
         }
     }
 
+    void currenciesAreCountedBeforeConsolidationMethodsAreLookedUp()
+    {
+        FakeDimension &custom = dimension(u"A\n"_s);
+        custom.addSystemList(u"[Currencies]"_s, {});
+        const auto error = errorOf([&] { report(custom, Section::CurrenciesAndConsolMethods); });
+        QVERIFY(error);
+        QCOMPARE(error->number(), TypeMismatch); // not the client's error over the missing list
+        custom.clearLists();
+        custom.addSystemList(u"[ConsolMethods]"_s, {});
+        mHfm.calls().clear();
+        QVERIFY(errorOf([&] { report(custom, Section::CurrenciesAndConsolMethods); }));
+        QCOMPARE(mHfm.calls().count("GetMemberListId"_L1), 1);
+    }
+
     void custom2AddsCurrenciesAndNoConsolidationMethods()
     {
         FakeDimension &custom = dimension(u"EUR\nUSD\nCHF\n"_s);

@@ -1,6 +1,8 @@
 #include "OpenWindow.h"
 #include "support/CursorLog.h"
 
+#include <QScopeGuard>
+
 using namespace Qt::StringLiterals;
 
 /// The four tabs that analyse a dimension.
@@ -18,6 +20,14 @@ private:
 
     FakeDimension &dimension(FakeKind kind) { return mOpen->dimension(kind); }
     QString currentDimension() { return mOpen->state.gDimension->GetDimensionName(); }
+    /// Compares two entities.
+    void compare(const QString &from, const QString &to)
+    {
+        mOpen->click("optDimensionCompare_10");
+        mOpen->choose("cboTopMember1", from);
+        mOpen->choose("cboTopMember2", to);
+        mOpen->click("cmdCompare");
+    }
     /// The dimension that a click on each option button makes the current one.
     QString dimensionsBehind(const QString &options, int first, int last)
     {
@@ -281,10 +291,7 @@ private Q_SLOTS:
     void compareListsWhatTheSecondParentLacks()
     {
         mOpen->open(compareTab);
-        mOpen->click("optDimensionCompare_10");
-        mOpen->choose("cboTopMember1", u"R"_s);
-        mOpen->choose("cboTopMember2", u"P"_s);
-        mOpen->click("cmdCompare");
+        compare(u"R"_s, u"P"_s);
         QCOMPARE(mOpen->report("txtMissingBaseMembers"),
                  u"Base members under top member R and NOT under P: \r\n\r\nC\r\n"_s);
         QVERIFY(mOpen->isWell());
@@ -305,23 +312,27 @@ private Q_SLOTS:
     void theSameParentInBothBoxesYieldsTheHeadingOnly()
     {
         mOpen->open(compareTab);
-        mOpen->click("optDimensionCompare_10");
-        mOpen->choose("cboTopMember1", u"P"_s);
-        mOpen->choose("cboTopMember2", u"P"_s);
-        mOpen->click("cmdCompare");
+        compare(u"P"_s, u"P"_s);
         QCOMPARE(mOpen->report("txtMissingBaseMembers"),
                  u"Base members under top member P and NOT under P: \r\n\r\n"_s);
     }
 
+    void aMissingChoiceShowsCompareErrorAndLeavesTheTextAsItWas_data()
+    {
+        QTest::addColumn<QStringList>("empty");
+        QTest::newRow("a parent only in cboTopMember2") << QStringList{u"cboTopMember1"_s};
+        QTest::newRow("a parent only in cboTopMember1") << QStringList{u"cboTopMember2"_s};
+        QTest::newRow("no parent") << QStringList{u"cboTopMember1"_s, u"cboTopMember2"_s};
+    }
     void aMissingChoiceShowsCompareErrorAndLeavesTheTextAsItWas()
     {
+        QFETCH(const QStringList, empty);
         mOpen->open(compareTab);
-        mOpen->click("optDimensionCompare_10");
-        mOpen->choose("cboTopMember1", u"R"_s);
-        mOpen->choose("cboTopMember2", u"P"_s);
-        mOpen->click("cmdCompare");
+        compare(u"R"_s, u"P"_s);
         const QString before = mOpen->report("txtMissingBaseMembers");
-        mOpen->box("cboTopMember1")->lineEdit()->clear();
+        QVERIFY(!before.isEmpty());
+        for (const QString &box : empty)
+            mOpen->box(qPrintable(box))->lineEdit()->clear();
         mOpen->calls().clear();
         mOpen->click("cmdCompare");
         const Prompt expected{
@@ -332,6 +343,31 @@ private Q_SLOTS:
         QCOMPARE(mOpen->report("txtMissingBaseMembers"), before);
         QCOMPARE(mOpen->calls().made(), QStringList());
         QVERIFY(!mOpen->fakes.program.isEnding());
+    }
+
+    void parentsAreComparedInTheDimensionChosenLastWhereverThatWas()
+    {
+        mOpen->open(compareTab);
+        compare(u"R"_s, u"P"_s);
+        dimension(FakeKind::Custom3).setMembers(u"R\n  X\nP\n  Y\n"_s);
+        mOpen->tabs()->setCurrentIndex(statisticsTab);
+        mOpen->click("optDimensionStats_16");
+        mOpen->tabs()->setCurrentIndex(compareTab);
+        mOpen->click("cmdCompare");
+        QCOMPARE(mOpen->report("txtMissingBaseMembers"),
+                 u"Base members under top member R and NOT under P: \r\n\r\nX\r\n"_s);
+        QCOMPARE(currentDimension(), u"Custom3"_s);
+    }
+
+    void whatCompareFoundBeforeAFailureIsShown()
+    {
+        dimension(FakeKind::Entity).setMembers(u"P\n  A\n  B\n  C\nR\n  D\n"_s);
+        mOpen->open(compareTab);
+        mOpen->calls().fail("GetMemberLabel"_L1, RuntimeError(5), 3);
+        compare(u"P"_s, u"R"_s);
+        QCOMPARE(mOpen->report("txtMissingBaseMembers"),
+                 u"Base members under top member P and NOT under R: \r\n\r\nA\r\nB\r\n"_s);
+        QVERIFY(mOpen->fakes.program.isEnding());
     }
 
     void aTopMemberThatIsNoneIsTheClientsErrorAndTheHeadingStays()
@@ -376,6 +412,46 @@ private Q_SLOTS:
         QCOMPARE(dimensionsBehind(u"optDimensionStats"_s, 12, 17),
                  u"Account Entity Custom1 Custom2 Custom3 Custom4"_s);
         QVERIFY(mOpen->isWell());
+    }
+
+    void everyDimensionHasItsOwnSection_data()
+    {
+        QTest::addColumn<QString>("section");
+        QTest::newRow("optDimensionStats_12") << u"System Account Members: 1"_s;
+        QTest::newRow("optDimensionStats_13") << u"Parents with more than 200 Children: "_s;
+        QTest::newRow("optDimensionStats_14")
+            << u"Currency Members: 2\r\n\r\nConsolMethod Members: 3"_s;
+        QTest::newRow("optDimensionStats_15") << u"Currency Members: 2"_s;
+        QTest::newRow("optDimensionStats_16") << QString();
+        QTest::newRow("optDimensionStats_17") << QString();
+    }
+    void everyDimensionHasItsOwnSection()
+    {
+        dimension(FakeKind::Account).clearLists();
+        dimension(FakeKind::Account).addSystemList(u"[System]"_s, {u"A"_s});
+        for (const FakeKind kind : {FakeKind::Custom1, FakeKind::Custom2, FakeKind::Custom3}) {
+            dimension(kind).setMembers(u"EUR\nUSD\nE\nP\nI\n"_s);
+            dimension(kind).addSystemList(u"[Currencies]"_s, {u"EUR"_s, u"USD"_s});
+            dimension(kind).addSystemList(u"[ConsolMethods]"_s, {u"E"_s, u"P"_s, u"I"_s});
+        }
+        mOpen->open(statisticsTab);
+        mOpen->click(QTest::currentDataTag());
+        QTEST(mOpen->report("txtStatistics").section(u"\r\n\r\n"_s, 9), "section");
+        QVERIFY(mOpen->isWell());
+    }
+
+    void theThresholdIsANumberInTheUsersRegionalFormat()
+    {
+        const QLocale before;
+        const auto back = qScopeGuard([before] { QLocale::setDefault(before); });
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+        dimension(FakeKind::Entity).setMembers(u"P\n  A\nQ\n  B\n  C\n"_s);
+        mOpen->open(statisticsTab);
+        mOpen->control<QLineEdit>("txtParentChildrenCheck")->setText(u"1,5"_s);
+        mOpen->click("optDimensionStats_13");
+        QVERIFY(mOpen->isWell());
+        QVERIFY(mOpen->report("txtStatistics")
+                    .endsWith(u"Parents with more than 1,5 Children: \r\n\tQ"_s));
     }
 
     void custom3StaysTheCurrentDimensionWhenAnotherTabIsOpened()

@@ -6,6 +6,8 @@
 #include <QMenu>
 #include <QStatusBar>
 
+#include <new>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -377,6 +379,28 @@ private Q_SLOTS:
         QCOMPARE(mOpen->box("cboCustom1Lists")->count(), 0);
         QCOMPARE(mOpen->box("cboViewLists")->count(), 0);
         QCOMPARE(panel(), QString());
+    }
+
+    void aLoadThatFailsStillHasSecurityOffAndSharedMembersInFront()
+    {
+        mOpen->calls().fail({}, RuntimeError(5));
+        frmApplicationInfo window(mOpen->fakes.services, mOpen->state);
+        QCOMPARE(mOpen->fakes.prompts.asked.size(), 1);
+        const auto *tabs = window.findChild<QTabWidget *>(u"sstabApplicationInfo"_s);
+        QVERIFY(!tabs->isTabEnabled(0));
+        QCOMPARE(tabs->currentIndex(), 1);
+        QVERIFY(!window.findChild<QMenu *>(u"mnuRoles"_s)->menuAction()->isVisible());
+    }
+
+    void aLoadThatRunsOutOfMemoryTellsItLikeAnyError()
+    {
+        mOpen->calls().whileCalling = [] { throw std::bad_alloc(); };
+        mOpen->open();
+        QCOMPARE(mOpen->fakes.prompts.asked.size(), 1);
+        QCOMPARE(mOpen->lastMessage(), u"Error Encountered in PopulateMemberListNames:\rError#: 7\r"
+                                       "Error Desc: Out of memory\rError Source: Tessaly\r\r"
+                                       "Please stop and restart Tessaly"_s);
+        QVERIFY(!mOpen->fakes.program.isEnding());
     }
 
     void withoutAnApplicationTheLoadTellsThatNoObjectIsSet()

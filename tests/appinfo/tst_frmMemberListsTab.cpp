@@ -163,6 +163,44 @@ private Q_SLOTS:
         QCOMPARE(mOpen->fakes.program.endCodes, QList<int>{1});
     }
 
+    void theMembersAreClearedBeforeTheFirstLabelIsRead()
+    {
+        mOpen->choose("cboEntityLists", u"Europe"_s);
+        mOpen->calls().fail("GetMemberLabel"_L1, RuntimeError(5));
+        mOpen->choose("cboEntityLists", u"[Base]"_s);
+        QCOMPARE(members(), QStringList());
+        QCOMPARE(heading(), u"Entity list  EUROPE  -  2 members"_s);
+        QCOMPARE(mOpen->fakes.program.endCodes, QList<int>{1});
+    }
+
+    void theHeadingComesAfterTheMembersAndTheParentsComeLast()
+    {
+        mOpen->choose("cboAccountLists", u"[Base]"_s);
+        QStringList seen; // whenever HFM is asked something
+        mOpen->calls().whileCalling = [&] {
+            const QString now = u"%1 members, %2, %3"_s.arg(members().size())
+                                    .arg(heading().left(heading().indexOf(u' ')))
+                                    .arg(topMembers().size());
+            if (seen.isEmpty() || seen.last() != now)
+                seen.append(now);
+        };
+        mOpen->choose("cboEntityLists", u"Europe"_s);
+        QCOMPARE(seen, QStringList({u"2 members, Account, 2"_s, u"0 members, Account, 2"_s,
+                                    u"2 members, Entity, 1"_s}));
+        QCOMPARE(topMembers().size(), 4);
+    }
+
+    void theParentsAreClearedBeforeTheyAreRead()
+    {
+        mOpen->choose("cboEntityLists", u"[Base]"_s);
+        mOpen->calls().fail("EnumAllMemberLabels"_L1, RuntimeError(5));
+        mOpen->choose("cboEntityLists", u"Europe"_s);
+        QCOMPARE(members(), QStringList({u"B"_s, u"Q **"_s}));
+        QCOMPARE(heading(), u"Entity list  EUROPE  -  2 members"_s);
+        QCOMPARE(topMembers(), QStringList{QString()});
+        QCOMPARE(mOpen->fakes.program.endCodes, QList<int>{1});
+    }
+
     void aHeadingShowsTheNameOfAListAsItIs()
     {
         dimension(FakeKind::Year).addUserList(u"p&l <b>"_s, {});

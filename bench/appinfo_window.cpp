@@ -1,6 +1,7 @@
-// How long the application information window takes to open on an application of any size, to fill
-// its parent lists with 30,000 entries, and to open such a list, with its first and with its last
-// entry chosen. From the user's act to everything painted; times are the processor's.
+// How long the application information window takes to open on an application of any size, to show
+// a list of 30,000 members, to fill its parent lists with 30,000 entries, and to open such a list,
+// with its first and with its last entry chosen. From the user's act to everything painted; times
+// are the processor's.
 
 #include "appinfo/frmApplicationInfo.h"
 #include "BenchServices.h"
@@ -41,6 +42,18 @@ public:
     {
         mWindow->findChild<QAbstractButton *>(QLatin1StringView(option))->click();
         settle();
+    }
+    void showList(const QString &name)
+    {
+        QComboBox *const lists = box("cboEntityLists");
+        lists->setCurrentIndex(lists->findText(name));
+        Q_EMIT lists->activated(lists->currentIndex());
+        settle();
+    }
+    int membersInList() const
+    {
+        const auto name = QStringLiteral("lstMembersInList");
+        return mWindow->findChild<QListView *>(name)->model()->rowCount();
     }
     QComboBox *box(const char *name)
     {
@@ -107,11 +120,22 @@ void measureParents(qint32 parents)
     measureList(opened, "cboParents", QStringLiteral("a typed list"));
 
     opened.showTab(2);
-    QComboBox *const lists = opened.box("cboEntityLists");
-    lists->setCurrentIndex(lists->findText(QStringLiteral("[Base]")));
-    measure(QStringLiteral("show a list and fill the top members with %1 entries").arg(parents),
-            [&] { Q_EMIT lists->activated(lists->currentIndex()); });
+    measure(QStringLiteral("fill the top members with %1 entries").arg(parents),
+            [&] { opened.showList(QStringLiteral("[Base]")); });
     measureList(opened, "cboParentMembers", QStringLiteral("a plain list"));
+}
+
+void measureMembers(qint32 members)
+{
+    generator::Request request;
+    request.shape = generator::Shape::Wide;
+    request.members = members + 1;
+    Opened opened(request);
+    opened.open();
+    opened.showTab(2);
+    opened.showList(QStringLiteral("[Base]"));
+    measure(QStringLiteral("show a list of %1 members").arg(opened.membersInList()),
+            [&] { opened.showList(QStringLiteral("[Base]")); });
 }
 
 } // namespace
@@ -123,5 +147,7 @@ int main(int argc, char **argv)
         measureOpening(members);
     for (const qint32 parents : {300, 30'000})
         measureParents(parents);
+    for (const qint32 members : {300, 30'000})
+        measureMembers(members);
     return 0;
 }

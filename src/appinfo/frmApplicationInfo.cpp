@@ -34,7 +34,7 @@ frmApplicationInfo::frmApplicationInfo(Services &services, modGlobal &global, QW
     for (QComboBox *list : {mCompare.cboTopMember1, mCompare.cboTopMember2, mDuplicates.cboParents})
         list->setModel(mParents);
     makeMenu();
-    makeStatusBar();
+    mApplicationPanel = TabControls::makeStatusPanel(statusBar());
     connectAnalyses();
     connectMemberLists();
     connectSecurity();
@@ -56,14 +56,6 @@ void frmApplicationInfo::makeMenu()
     mRolesMenu->setObjectName(u"mnuRoles"_s);
     QAction *entry = mRolesMenu->addAction(u"Show All Users with Access"_s);
     entry->setObjectName(u"mnuRoleAccess"_s);
-}
-
-void frmApplicationInfo::makeStatusBar()
-{
-    statusBar()->setObjectName(u"sbStatusBar"_s);
-    mApplicationPanel = TabControls::makeLabel(statusBar(), "sbStatusBar_1", {});
-    mApplicationPanel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    statusBar()->addWidget(mApplicationPanel, 1);
 }
 
 void frmApplicationInfo::connectAnalyses()

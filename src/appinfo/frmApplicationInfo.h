@@ -27,7 +27,6 @@ private:
 
     QWidget *addTab(const QString &caption);
     void makeMenu();
-    void makeStatusBar();
     void connectAnalyses();
     void connectMemberLists();
     void connectSecurity();

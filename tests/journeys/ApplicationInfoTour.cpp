@@ -1,6 +1,7 @@
 #include "ApplicationInfoTour.h"
 
 #include "Hands.h"
+#include "WorkbookTour.h"
 
 using namespace Qt::StringLiterals;
 
@@ -37,6 +38,8 @@ void showList(Journey &journey)
         Hands::choose(info, "cboParentMembers", u"ALDERBROOK"_s);
     });
     see(journey, "lblMembersInList", u"See them"_s, u"info-member-lists"_s);
+    WorkbookTour::sendToExcel(journey, infoWindow, "cmdSendListToExcel", false,
+                              u"base list Entity below ALDERBROOK"_s);
 }
 
 void compareParents(Journey &journey)

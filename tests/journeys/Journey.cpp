@@ -48,6 +48,17 @@ void Journey::on(const QString &window, const QString &what, Action action)
          [window, action = std::move(action)] { action(*windowTakingInput(window)); }});
 }
 
+void Journey::when(const QString &window, const QString &what, std::function<bool()> ready,
+                   Action action)
+{
+    mSteps.push_back(
+        {what,
+         [window, ready = std::move(ready)] {
+             return windowTakingInput(window) != nullptr && ready();
+         },
+         [window, action = std::move(action)] { action(*windowTakingInput(window)); }});
+}
+
 void Journey::once(const QString &window, const char *control,
                    std::function<bool(const QString &text)> expected, const QString &what,
                    Action action)

@@ -23,6 +23,9 @@ public:
     /// Adds a step for the top-level window of that object name. A message box goes by
     /// "QMessageBox".
     void on(const QString &window, const QString &what, Action action);
+    /// Adds a step for that window that comes once `ready` holds.
+    void when(const QString &window, const QString &what, std::function<bool()> ready,
+              Action action);
     /// Adds a step for that window that comes once the text of one of its controls is `expected`.
     void once(const QString &window, const char *control,
               std::function<bool(const QString &text)> expected, const QString &what,

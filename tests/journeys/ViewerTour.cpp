@@ -1,6 +1,7 @@
 #include "ViewerTour.h"
 
 #include "Hands.h"
+#include "WorkbookTour.h"
 
 #include <QTest>
 
@@ -46,15 +47,20 @@ void viewAccounts(Journey &journey)
     journey.on(viewer, u"Open every account"_s,
                [](QWidget &window) { Hands::click(window, "cmdExpandAll"); });
     see(journey, u"Total Members - "_s, u"See the accounts with their attributes"_s,
-        u"viewer-accounts"_s, [](QWidget &window) {
-            auto *tree = window.findChild<QWidget *>(u"trvMembers"_s);
-            QTest::keyClick(tree, Qt::Key_Down);
-            Hands::menu(window, "mnuTopMember");
-        });
+        u"viewer-accounts"_s, [](QWidget &) {});
+    WorkbookTour::sendToExcel(journey, viewer, "cmdSendToExcel", true, u"attributes Account"_s);
+    journey.on(viewer, u"Choose a top member"_s, [](QWidget &window) {
+        auto *tree = window.findChild<QWidget *>(u"trvMembers"_s);
+        QTest::keyClick(tree, Qt::Key_Down);
+        Hands::menu(window, "mnuTopMember");
+    });
     journey.on(viewer, u"Open everything below the top member"_s,
                [](QWidget &window) { Hands::click(window, "cmdExpandAll"); });
     see(journey, u"Total Members from Top Member of "_s, u"See it alone"_s, u"viewer-top-member"_s,
-        closeViewer);
+        [](QWidget &) {});
+    WorkbookTour::sendToExcel(journey, viewer, "cmdSendToExcel", true,
+                              u"attributes Account below ASSETS"_s);
+    journey.on(viewer, u"Close the viewer"_s, closeViewer);
 }
 
 void viewEntities(Journey &journey)

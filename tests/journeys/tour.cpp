@@ -8,6 +8,7 @@
 #include "ListBuilderTour.h"
 #include "SaveTour.h"
 #include "ViewerTour.h"
+#include "WorkbookTour.h"
 
 #include <QApplication>
 #include <QDir>
@@ -94,6 +95,7 @@ void startTour()
         QDir::current().absoluteFilePath(arguments.value(1, QStringLiteral("tour"))), qApp);
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
                        journey->folder() + QStringLiteral("/settings"));
+    WorkbookTour::prepareDesktop(*journey);
     logOn(*journey);
     extractEntities(*journey);
     saveAs(*journey, QStringLiteral("Entity.txt"));

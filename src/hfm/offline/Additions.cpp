@@ -72,7 +72,7 @@ Additions addSystemMembers(ApplicationDraft &draft, int currentYear)
         return additions.lists[size_t(kind)];
     };
     listsOf(DimensionKind::Value) = addValues(draft, currencies);
-    listsOf(DimensionKind::ICP) = addIntercompany(draft);
+    listsOf(DimensionKind::ICP) = addIntercompany(draft, additions.partners);
     listsOf(DimensionKind::Account) = addSystemAccounts(draft);
     listsOf(DimensionKind::Entity) = adjustmentEntities(draft.dimension(DimensionKind::Entity));
     for (int k = 0; k < 4; ++k)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hfm/offline/ApplicationDraft.h"
+#include "hfm/offline/SharedMembers.h"
 #include "hfm/offline/SystemLists.h"
 
 namespace hfm::offline {
@@ -12,6 +13,7 @@ struct Additions
     std::vector<MemberId> entityCurrencies;
     /// For each custom dimension, the members that the names in the draft's topMembers stand for.
     std::array<std::vector<MemberId>, 4> topMembers;
+    SharedMembers partners; ///< the members of ICP that bear entities' labels
     /// By DimensionKind: the lists that are told by what members are.
     std::array<GivenLists, allDimensionKinds.size()> lists;
 };

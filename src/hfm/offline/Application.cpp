@@ -27,6 +27,14 @@ void setLanguages(Application &application, const ApplicationDraft &draft)
 
 } // namespace
 
+MemberId Application::find(DimensionKind kind, QByteArrayView label) const
+{
+    const MemberId member = dimension(kind).labels.find(label);
+    if (member >= 0 || kind != DimensionKind::ICP)
+        return member;
+    return partners.of(dimension(DimensionKind::Entity).labels.find(label));
+}
+
 std::shared_ptr<const Application> finishApplication(ApplicationDraft &draft,
                                                      const ApplicationFiles &files, int currentYear)
 {
@@ -41,13 +49,11 @@ std::shared_ptr<const Application> finishApplication(ApplicationDraft &draft,
     dimensions.reserve(allDimensionKinds.size());
     for (const DimensionKind kind : allDimensionKinds)
         dimensions.push_back(storeDimension(draft, kind, std::move(additions.lists[size_t(kind)])));
-    draft.descriptions.squeeze();
 
     auto application =
         std::make_shared<Application>(Application{files,
                                                   {},
                                                   nullptr,
-                                                  std::move(draft.descriptions),
                                                   std::move(dimensions),
                                                   {},
                                                   {},
@@ -55,6 +61,7 @@ std::shared_ptr<const Application> finishApplication(ApplicationDraft &draft,
                                                   noCurrency,
                                                   std::move(additions.entityCurrencies),
                                                   std::move(additions.topMembers),
+                                                  std::move(additions.partners),
                                                   std::move(draft.memberListFile)});
     setLanguages(*application, draft);
     application->arena = std::move(draft.arena);

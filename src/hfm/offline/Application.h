@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hfm/offline/Cluster.h"
+#include "hfm/offline/SharedMembers.h"
 #include "hfm/offline/StoredDimension.h"
 #include "hfm/offline/StoredSecurity.h"
 #include "hfm/offline/Warnings.h"
@@ -16,10 +17,9 @@ struct Application
     Warnings warnings;
 
     std::unique_ptr<TextArena> arena;
-    Descriptions descriptions;
     std::vector<StoredDimension> dimensions; ///< by DimensionKind
     QList<QString> languages;
-    /// By position in `languages`: the language's number in `descriptions`, or -1.
+    /// By position in `languages`: the language's number in Descriptions, or -1.
     std::vector<qint32> languageNumbers;
     StoredSecurity security;
 
@@ -29,9 +29,13 @@ struct Application
     /// For each custom dimension, the members that AccountRecord::topMembers counts.
     std::array<std::vector<MemberId>, 4> topMembers;
 
+    SharedMembers partners; ///< the members of ICP that only entities' labels lead to
+
     MemberListFile memberListFile; ///< as it stands on the disk
 
     const StoredDimension &dimension(DimensionKind kind) const { return dimensions[size_t(kind)]; }
+    /// The member of that label, in any letter case; -1 where there is none.
+    MemberId find(DimensionKind kind, QByteArrayView label) const;
 };
 
 /// Makes the application of its draft, which is used up. `currentYear` is for an application that

@@ -16,7 +16,7 @@ struct ListedNames
     explicit ListedNames(TextArena &arena) : names(arena) {}
 
     Names names;
-    std::vector<DescriptionRange> descriptions; ///< by name
+    std::vector<TextRef> descriptions; ///< by name: what stands for its Descriptions
 };
 
 /// An application while its files are read.
@@ -28,7 +28,6 @@ struct ApplicationDraft
 
     std::unique_ptr<TextArena> arena = std::make_unique<TextArena>();
     TextPool pool{*arena};
-    Descriptions descriptions;
     Warnings &warnings;
 
     std::vector<DimensionDraft> dimensions; ///< by DimensionKind

@@ -4,7 +4,8 @@
 
 namespace hfm::offline {
 
-void DescriptionReader::look(const Fields &fields, qsizetype first, Place place, Found &found)
+void DescriptionReader::look(const Fields &fields, qsizetype first, Place place,
+                             Descriptions &found)
 {
     found.clear();
     for (qsizetype i = first; i < fields.count(); ++i) {
@@ -19,17 +20,9 @@ void DescriptionReader::look(const Fields &fields, qsizetype first, Place place,
                     .arg(quoted(field));
             });
         } else if (!description->value.isEmpty()) {
-            found.push_back({language, mDraft.pool.key(description->value)});
+            found.add(quint16(language), description->value);
         }
     }
-}
-
-DescriptionRange DescriptionReader::store(const Found &found)
-{
-    DescriptionRange range = mDraft.descriptions.begin();
-    for (const One &one : found)
-        mDraft.descriptions.add(range, quint16(one.language), mDraft.pool.intern(one.text));
-    return range;
 }
 
 /// Records have their descriptions in the same order, so that the language at one position is most
@@ -37,7 +30,7 @@ DescriptionRange DescriptionReader::store(const Found &found)
 qint32 DescriptionReader::languageOf(QByteArrayView name, qsizetype position, Place place)
 {
     if (size_t(position) < mUsual.size() && mUsual[size_t(position)] >= 0 &&
-        mDraft.languages.at(mUsual[size_t(position)]) == name)
+        sameBytes(mDraft.languages.at(mUsual[size_t(position)]), name))
         return mUsual[size_t(position)];
     // A language's position is a 16-bit number for HFM's clients.
     constexpr qint32 most = std::numeric_limits<qint16>::max();

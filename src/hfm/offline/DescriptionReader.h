@@ -11,30 +11,22 @@ class DescriptionReader
 public:
     explicit DescriptionReader(ApplicationDraft &draft) : mDraft(draft) {}
 
-    /// Descriptions that were looked at and not yet stored. Their texts are those of the fields.
-    struct One
-    {
-        qint32 language;
-        TextPool::Key text;
-    };
-    using Found = std::vector<One>;
-
-    /// Those from the field `first` to the record's last. A field that is none is a warning.
-    DescriptionRange read(const Fields &fields, qsizetype first, Place place)
+    /// What stands for the descriptions from the field `first` to the record's last, put together.
+    /// A field that is none is a warning.
+    TextRef read(const Fields &fields, qsizetype first, Place place)
     {
         look(fields, first, place, mFound);
-        return store(mFound);
+        return mDraft.arena->add(mFound.together());
     }
 
-    /// The same in two steps, between which what is needed is fetched from memory.
-    void look(const Fields &fields, qsizetype first, Place place, Found &found);
-    DescriptionRange store(const Found &found);
+    /// Only puts them together.
+    void look(const Fields &fields, qsizetype first, Place place, Descriptions &found);
 
 private:
     qint32 languageOf(QByteArrayView name, qsizetype position, Place place);
 
     ApplicationDraft &mDraft;
-    Found mFound;
+    Descriptions mFound;
     std::vector<qint32> mUsual; ///< the languages of the last record's descriptions
 };
 

@@ -2,52 +2,55 @@
 
 #include "hfm/offline/Texts.h"
 
+#include <cstring>
+#include <vector>
+
 namespace hfm::offline {
 
-/// The descriptions of one member within Descriptions.
-struct DescriptionRange
-{
-    quint32 first = 0;
-    quint16 count = 0;
-};
-
-/// The descriptions of all members of an application, those of one member side by side. Languages
-/// are numbered as they were met.
+/// The descriptions of one member put together to one text, so that an arena holds those of a
+/// million members without a table of them. For each description there stand the number of its
+/// language, in two bytes, the length of its text, in four, and the text. Languages are numbered as
+/// they were met.
 class Descriptions
 {
 public:
-    /// Begins the descriptions of the next member.
-    DescriptionRange begin() const { return {quint32(mTexts.size()), 0}; }
-    /// Adds one to the range that was begun last. More of them than HFM has languages are left out.
-    void add(DescriptionRange &range, quint16 language, TextRef text)
+    void clear() { mBytes.clear(); }
+    void add(quint16 language, QByteArrayView text)
     {
-        constexpr quint16 most = 0xFFFF;
-        if (range.count == most)
-            return;
-        mLanguages.push_back(language);
-        mTexts.push_back(text);
-        ++range.count;
+        const Head head = {language, quint32(text.size())};
+        char bytes[Head::size];
+        std::memcpy(bytes, &head.language, sizeof head.language);
+        std::memcpy(bytes + sizeof head.language, &head.length, sizeof head.length);
+        mBytes.insert(mBytes.end(), bytes, bytes + Head::size);
+        mBytes.insert(mBytes.end(), text.begin(), text.end());
     }
+    /// Valid up to the next change. Empty where there are no descriptions.
+    QByteArrayView together() const { return {mBytes.data(), qsizetype(mBytes.size())}; }
 
-    /// The first text in that language; the empty text where there is none.
-    TextRef find(const DescriptionRange &range, quint16 language) const
+    /// The first text in that language; empty where there is none.
+    static QByteArrayView find(QByteArrayView together, quint16 language)
     {
-        for (size_t i = range.first; i < size_t(range.first) + range.count; ++i) {
-            if (mLanguages[i] == language)
-                return mTexts[i];
+        while (!together.isEmpty()) {
+            Head head = {};
+            std::memcpy(&head.language, together.data(), sizeof head.language);
+            std::memcpy(&head.length, together.data() + sizeof head.language, sizeof head.length);
+            const QByteArrayView text = together.sliced(Head::size, head.length);
+            if (head.language == language)
+                return text;
+            together = together.sliced(Head::size + head.length);
         }
-        return 0;
-    }
-
-    void squeeze()
-    {
-        mLanguages.shrink_to_fit();
-        mTexts.shrink_to_fit();
+        return {};
     }
 
 private:
-    LargeVector<quint16> mLanguages;
-    LargeVector<TextRef> mTexts;
+    struct Head
+    {
+        static constexpr qsizetype size = sizeof(quint16) + sizeof(quint32);
+        quint16 language;
+        quint32 length;
+    };
+
+    std::vector<char> mBytes;
 };
 
 } // namespace hfm::offline

@@ -9,7 +9,12 @@ namespace hfm::offline {
 
 namespace {
 
-constexpr size_t mostReserved = size_t(1) << 22;
+/// So many, and some that the client adds, for which tables of a million entries should not have to
+/// move.
+size_t withAdded(size_t further)
+{
+    return further + further / 64 + 64;
+}
 
 template <typename Value>
 void renumber(LargeVector<Value> &values, const std::vector<MemberId> &newNumbers)
@@ -30,16 +35,25 @@ MemberId DimensionDraft::noteNew(MemberId id, Origin origin, Place place)
         mOrigins.push_back(origin);
         mPlaces.push_back(place);
         mDefaultParents.push_back(noDefaultParent);
-        mDescriptions.emplace_back();
+        mDescriptions.push_back(0);
     }
     return id;
 }
 
 void DimensionDraft::reserveMembers(size_t further)
 {
-    further = std::min(further, mostReserved);
-    const size_t all = mOrigins.size() + further;
-    mLabels.reserve(further);
+    mLabels.reserve(withAdded(further));
+    reserveTables(mOrigins.size() + withAdded(further));
+}
+
+void DimensionDraft::reserveShared(size_t further)
+{
+    mLabels.reserveShared(further);
+    reserveTables(mOrigins.size() + further);
+}
+
+void DimensionDraft::reserveTables(size_t all)
+{
     mOrigins.reserve(all);
     mPlaces.reserve(all);
     mDefaultParents.reserve(all);
@@ -54,9 +68,8 @@ void DimensionDraft::reserveMembers(size_t further)
 
 void DimensionDraft::reserveEdges(size_t further)
 {
-    further = std::min(further, mostReserved);
-    mEdges.reserve(mEdges.size() + further);
-    mEdgePlaces.reserve(mEdgePlaces.size() + further);
+    mEdges.reserve(mEdges.size() + withAdded(further));
+    mEdgePlaces.reserve(mEdgePlaces.size() + withAdded(further));
 }
 
 MemberId DimensionDraft::addRecord(const Labels::Key &label, Place place)
@@ -84,7 +97,7 @@ void DimensionDraft::noteRecord(MemberId id)
     ++mRecordCount;
 }
 
-MemberId DimensionDraft::findOrAdd(QByteArrayView label, Origin origin, Place place)
+MemberId DimensionDraft::findOrAdd(const Labels::Key &label, Origin origin, Place place)
 {
     return noteNew(mLabels.findOrAdd(label), origin, place);
 }
@@ -92,6 +105,11 @@ MemberId DimensionDraft::findOrAdd(QByteArrayView label, Origin origin, Place pl
 MemberId DimensionDraft::findOrAdd(TextRef label, Origin origin, Place place)
 {
     return noteNew(mLabels.findOrAdd(label), origin, place);
+}
+
+MemberId DimensionDraft::addShared(TextRef label)
+{
+    return noteNew(mLabels.addShared(label), Origin::Client, {});
 }
 
 void DimensionDraft::setDefaultParent(MemberId id, QByteArrayView label, TextArena &arena)

@@ -36,22 +36,28 @@ public:
     Place place(MemberId id) const { return mPlaces[size_t(id)]; }
     /// noDefaultParent and unknownDefaultParent included.
     MemberId defaultParent(MemberId id) const { return mDefaultParents[size_t(id)]; }
-    const DescriptionRange &descriptions(MemberId id) const { return mDescriptions[size_t(id)]; }
-    void setDescriptions(MemberId id, const DescriptionRange &range)
-    {
-        mDescriptions[size_t(id)] = range;
-    }
+    /// What stands for the member's Descriptions.
+    TextRef descriptions(MemberId id) const { return mDescriptions[size_t(id)]; }
+    void setDescriptions(MemberId id, TextRef together) { mDescriptions[size_t(id)] = together; }
 
-    /// Makes room for so many members, or lines of a hierarchy, more. What a file promises beyond
-    /// a few million is believed when it is met.
+    /// Makes room for so many members, or lines of a hierarchy, more, and for some that the client
+    /// adds.
     void reserveMembers(size_t further);
+    void reserveShared(size_t further);
     void reserveEdges(size_t further);
 
     /// The member of a record; -1 where another record had that label before.
     MemberId addRecord(const Labels::Key &label, Place place);
     /// The member of that label, which becomes one of that origin if there is none.
-    MemberId findOrAdd(QByteArrayView label, Origin origin, Place place);
+    MemberId findOrAdd(const Labels::Key &label, Origin origin, Place place);
+    MemberId findOrAdd(QByteArrayView label, Origin origin, Place place)
+    {
+        return findOrAdd(mLabels.key(label), origin, place);
+    }
     MemberId findOrAdd(TextRef label, Origin origin, Place place);
+    /// A new member of the client's that bears the label of another dimension's member. It is not
+    /// found by that label here, and no member is to be added by its label after it.
+    MemberId addShared(TextRef label);
     /// Notes the default parent that a record names.
     void setDefaultParent(MemberId id, QByteArrayView label, TextArena &arena);
     /// Finds the default parents that were named before they were met. Called at the end.
@@ -70,7 +76,7 @@ public:
 
     Labels takeLabels() { return std::move(mLabels); }
     LargeVector<MemberId> takeDefaultParents() { return std::move(mDefaultParents); }
-    LargeVector<DescriptionRange> takeDescriptions() { return std::move(mDescriptions); }
+    LargeVector<TextRef> takeDescriptions() { return std::move(mDescriptions); }
     /// Gives back the memory of what only the reading needs.
     void dropPlacesAndEdges();
 
@@ -86,6 +92,7 @@ private:
         TextRef parent;
     };
 
+    void reserveTables(size_t all);
     MemberId noteNew(MemberId id, Origin origin, Place place);
     void noteRecord(MemberId id);
     MemberId parentNear(MemberId id, QByteArrayView label) const;
@@ -96,7 +103,7 @@ private:
     LargeVector<Origin> mOrigins;
     LargeVector<Place> mPlaces;
     LargeVector<MemberId> mDefaultParents;
-    LargeVector<DescriptionRange> mDescriptions;
+    LargeVector<TextRef> mDescriptions;
     /// The members with a record, in the order of the records, once these are not all of the
     /// members in their order.
     LargeVector<MemberId> mRecords;

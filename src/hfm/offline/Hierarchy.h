@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hfm/offline/LargeMemory.h"
 #include "hfm/Values.h"
 
 #include <span>
@@ -93,15 +94,15 @@ private:
     QList<MemberId> below(MemberId top, Distinct distinct, Keep keep) const;
 
     // By slot; the last entry of the starts ends the last member's part.
-    std::vector<quint32> mChildStarts = {0, 0};
-    std::vector<qint32> mGenerations = {0};
-    std::vector<quint32> mOccurrences = {0};
-    std::vector<MemberId> mChildren;
+    LargeVector<quint32> mChildStarts = {0, 0};
+    LargeVector<qint32> mGenerations = {0};
+    LargeVector<quint32> mOccurrences = {0};
+    LargeVector<MemberId> mChildren;
 
     // By member.
-    std::vector<quint32> mParentStarts = {0};
-    std::vector<qint32> mRanks;
-    std::vector<MemberId> mParents;
+    LargeVector<quint32> mParentStarts = {0};
+    LargeVector<qint32> mRanks;
+    LargeVector<MemberId> mParents;
     qint32 mNodes = 0; ///< how many members have a node
 };
 

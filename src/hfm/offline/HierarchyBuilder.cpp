@@ -44,14 +44,14 @@ void Hierarchy::Builder::clear()
 
 void Hierarchy::Builder::placeChildren()
 {
-    std::vector<quint32> &starts = mHierarchy.mChildStarts;
+    LargeVector<quint32> &starts = mHierarchy.mChildStarts;
     for (const Edge &edge : mEdges)
         ++starts[slot(edge.parent) + 1];
     std::partial_sum(starts.begin(), starts.end(), starts.begin());
 
     mHierarchy.mChildren.resize(mEdges.size());
-    std::vector<quint32> edgeOfChild(mEdges.size());
-    std::vector<quint32> ends(starts.begin(), starts.end() - 1);
+    LargeVector<quint32> edgeOfChild(mEdges.size());
+    LargeVector<quint32> ends(starts.begin(), starts.end() - 1);
     for (size_t i = 0; i < mEdges.size(); ++i) {
         const quint32 place = ends[slot(mEdges[i].parent)]++;
         mHierarchy.mChildren[place] = mEdges[i].child;
@@ -60,23 +60,25 @@ void Hierarchy::Builder::placeChildren()
     leaveOutRepeatedEdges(edgeOfChild);
 }
 
-void Hierarchy::Builder::leaveOutRepeatedEdges(const std::vector<quint32> &edgeOfChild)
+void Hierarchy::Builder::leaveOutRepeatedEdges(const LargeVector<quint32> &edgeOfChild)
 {
-    std::vector<quint32> &starts = mHierarchy.mChildStarts;
-    std::vector<MemberId> &children = mHierarchy.mChildren;
-    std::vector<size_t> lastParent(mMemberCount, mMemberCount + 1); // which is no parent's slot
+    LargeVector<quint32> &starts = mHierarchy.mChildStarts;
+    LargeVector<MemberId> &children = mHierarchy.mChildren;
+    constexpr MemberId noParent = rootMember - 1;
+    LargeVector<MemberId> lastParents(mMemberCount, noParent);
     quint32 kept = 0;
-    for (size_t parent = 0; parent <= mMemberCount; ++parent) {
+    for (size_t at = 0; at <= mMemberCount; ++at) {
+        const MemberId parent = MemberId(at) - 1;
         const quint32 first = kept;
-        for (quint32 i = starts[parent]; i < starts[parent + 1]; ++i) {
-            size_t &last = lastParent[size_t(children[i])];
+        for (quint32 i = starts[at]; i < starts[at + 1]; ++i) {
+            MemberId &last = lastParents[size_t(children[i])];
             if (last == parent)
                 mFaults.repeatedEdges.push_back(qsizetype(edgeOfChild[i]));
             else
                 children[kept++] = children[i];
             last = parent;
         }
-        starts[parent] = first;
+        starts[at] = first;
     }
     starts.back() = kept;
     children.resize(kept);
@@ -150,7 +152,7 @@ void Hierarchy::Builder::close(MemberId member)
 /// `member` was met again below itself.
 void Hierarchy::Builder::noteCycle(MemberId member)
 {
-    std::vector<MemberId> childOnCycle(mMemberCount, rootMember);
+    LargeVector<MemberId> childOnCycle(mMemberCount, rootMember);
     MemberId child = member;
     do {
         const MemberId parent = mLevels.back().member;
@@ -173,13 +175,13 @@ void Hierarchy::Builder::noteCycle(MemberId member)
 
 void Hierarchy::Builder::placeParents()
 {
-    std::vector<quint32> &starts = mHierarchy.mParentStarts;
+    LargeVector<quint32> &starts = mHierarchy.mParentStarts;
     for (const MemberId child : mHierarchy.mChildren)
         ++starts[size_t(child) + 1];
     std::partial_sum(starts.begin(), starts.end(), starts.begin());
 
     mHierarchy.mParents.resize(mHierarchy.mChildren.size());
-    std::vector<quint32> ends(starts.begin(), starts.end() - 1);
+    LargeVector<quint32> ends(starts.begin(), starts.end() - 1);
     const auto placeUnder = [&](MemberId parent) {
         for (const MemberId child : mHierarchy.children(parent))
             mHierarchy.mParents[ends[size_t(child)]++] = parent;

@@ -23,7 +23,7 @@ private:
     enum class State : quint8 { New, Open, Done };
 
     void placeChildren();
-    void leaveOutRepeatedEdges(const std::vector<quint32> &edgeOfChild);
+    void leaveOutRepeatedEdges(const LargeVector<quint32> &edgeOfChild);
     void visitEverything();
     void visit(MemberId start);
     void open(MemberId member);
@@ -36,8 +36,8 @@ private:
     size_t mMemberCount;
     std::span<const Edge> mEdges;
     HierarchyFaults &mFaults;
-    std::vector<State> mStates;
-    std::vector<MemberId> mOrder; ///< the members in the order of their ranks
+    LargeVector<State> mStates;
+    LargeVector<MemberId> mOrder; ///< the members in the order of their ranks
     std::vector<Level> mLevels;   ///< the way from the start of a visit to where it is
 };
 

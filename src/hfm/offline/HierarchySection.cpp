@@ -48,8 +48,55 @@ void HierarchySection::readRecord(QByteArrayView line, Place place)
         return;
     }
     checkFields(place);
-    const MemberId parentId = parent(mFields.at(mFirst + mParentIndex), place);
-    mDimension.addEdge({parentId, child(parentId, childLabel, place)}, place);
+    constexpr size_t mostPending = 64;
+    mParentKeys.push_back(parentKey(parentLabel()));
+    mPending.push_back({place, childLabel, std::nullopt, -1});
+    if (mPending.size() == mostPending)
+        finish();
+}
+
+/// Most children are where they are expected. The others are looked up together, because the parts
+/// of the tables that it takes have to be fetched from memory.
+void HierarchySection::finish()
+{
+    if (mPending.empty())
+        return;
+    lookUpPending();
+    storePending();
+    mPending.clear();
+    mParentKeys.clear();
+    mChildKeys.clear();
+}
+
+void HierarchySection::lookUpPending()
+{
+    if (!mSiblings)
+        mSiblings.emplace(mDimension);
+    mDimension.labels().fetch(mParentKeys);
+    for (size_t i = 0; i < mPending.size(); ++i) {
+        Pending &edge = mPending[i];
+        edge.parent = knownParent(mParentKeys[i]);
+        edge.child = guessedChild(edge.parent, edge.childLabel);
+        if (edge.child < 0)
+            mChildKeys.push_back(mDimension.labels().key(edge.childLabel));
+    }
+    mDimension.labels().fetch(mChildKeys);
+}
+
+/// Only here are members added, so that they are numbered in the order of the lines.
+void HierarchySection::storePending()
+{
+    const Labels::Key *childKey = mChildKeys.data();
+    for (size_t i = 0; i < mPending.size(); ++i) {
+        const Pending &edge = mPending[i];
+        const MemberId parent =
+            edge.parent ? *edge.parent
+                        : mDimension.findOrAdd(mParentKeys[i], Origin::Hierarchy, edge.place);
+        const MemberId child =
+            edge.child >= 0 ? edge.child
+                            : mDimension.findOrAdd(*childKey++, Origin::Hierarchy, edge.place);
+        mDimension.addEdge({parent, child}, edge.place);
+    }
 }
 
 /// A delimiter too many at the line's end makes no field.
@@ -86,25 +133,44 @@ void HierarchySection::rejoinRoot()
         mFirst = 1;
 }
 
-MemberId HierarchySection::parent(QByteArrayView label, Place place)
+/// Empty for the root.
+QByteArrayView HierarchySection::parentLabel() const
 {
-    if (label.isEmpty() || mFirst == 1 || sameWord(label, rootLabel))
-        return rootMember;
-    if (mLastParent == rootMember || mDimension.labels().at(mLastParent) != label)
-        mLastParent = mDimension.findOrAdd(label, Origin::Hierarchy, place);
-    return mLastParent;
+    const QByteArrayView label = mFields.at(mFirst + mParentIndex);
+    return mFirst == 1 || sameWord(label, rootLabel) ? QByteArrayView() : label;
 }
 
-MemberId HierarchySection::child(MemberId parentId, QByteArrayView label, Place place)
+/// Most often the parent is that of the line before.
+Labels::Key HierarchySection::parentKey(QByteArrayView label) const
 {
-    if (!mSiblings)
-        mSiblings.emplace(mDimension);
-    if (parentId != mChildrenOf || mExpected < 0) {
-        mChildrenOf = parentId;
-        mExpected = mSiblings->first(parentId);
+    if (!mParentKeys.empty() && sameBytes(mParentKeys.back().label, label))
+        return mParentKeys.back();
+    return mDimension.labels().key(label);
+}
+
+std::optional<MemberId> HierarchySection::knownParent(const Labels::Key &key)
+{
+    if (key.label.isEmpty())
+        return rootMember;
+    if (mLastParent != rootMember && sameBytes(mDimension.labels().at(mLastParent), key.label))
+        return mLastParent;
+    const MemberId found = mDimension.labels().find(key);
+    if (found < 0)
+        return std::nullopt;
+    mLastParent = found;
+    return found;
+}
+
+MemberId HierarchySection::guessedChild(std::optional<MemberId> parent, QByteArrayView label)
+{
+    if (!parent)
+        return -1;
+    if (*parent != mChildrenOf || mExpected < 0) {
+        mChildrenOf = *parent;
+        mExpected = mSiblings->first(*parent);
     }
-    if (mExpected < 0 || mDimension.labels().at(mExpected) != label)
-        return mDimension.findOrAdd(label, Origin::Hierarchy, place);
+    if (mExpected < 0 || !sameBytes(mDimension.labels().at(mExpected), label))
+        return -1;
     return std::exchange(mExpected, mSiblings->after(mExpected));
 }
 

@@ -4,6 +4,9 @@
 #include "hfm/offline/Section.h"
 #include "hfm/offline/Syntax.h"
 
+#include <optional>
+#include <vector>
+
 namespace hfm::offline {
 
 /// Tells which child of a parent is probably named next: the next member, in the order of the
@@ -18,17 +21,17 @@ public:
     MemberId after(MemberId child) const { return entry(mNext, child); }
 
 private:
-    static MemberId entry(const std::vector<MemberId> &entries, MemberId at)
+    static MemberId entry(const LargeVector<MemberId> &entries, MemberId at)
     {
         return size_t(at) < entries.size() ? entries[size_t(at)] : -1;
     }
 
-    std::vector<MemberId> mFirst; ///< by parent, the root first
-    std::vector<MemberId> mNext;  ///< by member
+    LargeVector<MemberId> mFirst; ///< by parent, the root first
+    LargeVector<MemberId> mNext;  ///< by member
 };
 
 /// !HIERARCHIES= of one dimension: parent and child, for custom dimensions also a weight, which is
-/// looked at but not kept.
+/// looked at but not kept. Members are looked up for some lines at a time.
 class HierarchySection final : public Section
 {
 public:
@@ -36,13 +39,18 @@ public:
 
     void readColumns(const QList<QByteArrayView> &columns) override;
     void readRecord(QByteArrayView line, Place place) override;
+    void finish() override;
 
 private:
     void rejoinRoot();
     qsizetype fieldCount() const;
     void checkFields(Place place);
-    MemberId parent(QByteArrayView label, Place place);
-    MemberId child(MemberId parentId, QByteArrayView label, Place place);
+    QByteArrayView parentLabel() const;
+    Labels::Key parentKey(QByteArrayView label) const;
+    std::optional<MemberId> knownParent(const Labels::Key &key);
+    MemberId guessedChild(std::optional<MemberId> parent, QByteArrayView label);
+    void lookUpPending();
+    void storePending();
 
     ApplicationDraft &mDraft;
     DimensionDraft &mDimension;
@@ -51,6 +59,18 @@ private:
     qsizetype mChildIndex = 1;
     qsizetype mWeightIndex = 2;
     qsizetype mKnownFields;
+    /// A line that is not stored yet.
+    struct Pending
+    {
+        Place place;
+        QByteArrayView childLabel;
+        std::optional<MemberId> parent; ///< nothing where it is no member yet
+        MemberId child = -1;            ///< -1 where it was not guessed
+    };
+    std::vector<Pending> mPending;
+    std::vector<Labels::Key> mParentKeys; ///< by pending line; the root's label is empty
+    std::vector<Labels::Key> mChildKeys;  ///< of the children that were not guessed, in order
+
     MemberId mLastParent = rootMember;
     MemberId mChildrenOf = rootMember; ///< whose children mExpected speaks of
     MemberId mExpected = -1;           ///< the child that probably comes next

@@ -4,56 +4,97 @@
 #include "runtime/RuntimeError.h"
 
 #include <QHashFunctions>
-#include <QVarLengthArray>
 
 #include <algorithm>
+#include <cstring>
 #include <limits>
+#include <optional>
 
 namespace hfm::offline {
 
 namespace {
 
-/// A label in the form that is the same for all that differ in case only.
-class Folded
+/// The same bit of each of eight bytes.
+constexpr quint64 inEachByte(quint64 bits)
 {
-public:
-    explicit Folded(QByteArrayView label) : mBytes(label.size())
-    {
-        uchar all = 0;
-        for (qsizetype i = 0; i < label.size(); ++i) {
-            const char c = label[i];
-            all |= uchar(c);
-            mBytes[i] = c >= 'A' && c <= 'Z' ? char(c + ('a' - 'A')) : c;
-        }
-        if (all < 0x80)
-            return;
-        const QByteArray folded = QString::fromUtf8(label).toCaseFolded().toUtf8();
-        mBytes.resize(folded.size());
-        std::copy(folded.begin(), folded.end(), mBytes.begin());
-    }
+    return bits * 0x0101010101010101U;
+}
 
-    QByteArrayView view() const { return {mBytes.constData(), mBytes.size()}; }
-
-private:
-    QVarLengthArray<char, 256> mBytes;
-};
-
-quint32 hashOf(QByteArrayView label)
+template <typename Word>
+quint64 load(const char *bytes)
 {
-    const Folded folded(label);
-    return quint32(qHashBits(folded.view().data(), size_t(folded.view().size())));
+    Word word = 0;
+    std::memcpy(&word, bytes, sizeof word);
+    return word;
+}
+
+/// All that a text of at most eight bytes holds, some bytes of it twice.
+quint64 shortText(const char *bytes, qsizetype size)
+{
+    if (size >= 4)
+        return load<quint32>(bytes) | load<quint32>(bytes + size - 4) << 32U;
+    if (size >= 2)
+        return load<quint16>(bytes) | load<quint16>(bytes + size - 2) << 16U;
+    return size == 1 ? load<quint8>(bytes) : 0;
+}
+
+/// Makes small letters of the capital ones among eight ASCII characters: adding carries into the
+/// highest bit of those that are not below 'A', and of those that are beyond 'Z'.
+quint64 lowerCase(quint64 ascii)
+{
+    const quint64 fromA = ascii + inEachByte(0x80 - 'A');
+    const quint64 beyondZ = ascii + inEachByte(0x80 - 'Z' - 1);
+    return ascii | ((fromA & ~beyondZ & inEachByte(0x80)) >> 2U);
+}
+
+/// The form that is the same for all texts that differ in case only.
+QByteArray folded(QByteArrayView text)
+{
+    return QString::fromUtf8(text).toCaseFolded().toUtf8();
+}
+
+/// The same for all ASCII texts that differ in case only; nothing for any other text.
+std::optional<quint32> hashOfAscii(QByteArrayView text)
+{
+    constexpr quint64 odd = 0x9E3779B97F4A7C15U;
+    const char *at = text.data();
+    qsizetype left = text.size();
+    quint64 hash = quint64(left) * odd;
+    quint64 all = 0;
+    const auto mix = [&](quint64 bytes) {
+        all |= bytes;
+        hash = (hash ^ lowerCase(bytes)) * odd;
+        hash ^= hash >> 32U;
+    };
+    for (; left > 8; at += 8, left -= 8)
+        mix(load<quint64>(at));
+    mix(shortText(at, left));
+    if (all & inEachByte(0x80))
+        return std::nullopt;
+    return quint32(hash);
+}
+
+/// The same for all texts that differ in case only.
+quint32 hashOf(QByteArrayView text)
+{
+    if (const auto hash = hashOfAscii(text))
+        return *hash;
+    const QByteArray inOneCase = folded(text); // which may be ASCII: that of the Kelvin sign is
+    if (const auto hash = hashOfAscii(inOneCase))
+        return *hash;
+    return quint32(qHashBits(inOneCase.constData(), size_t(inOneCase.size())));
 }
 
 } // namespace
 
 bool sameLabel(QByteArrayView left, QByteArrayView right)
 {
-    return left == right || Folded(left).view() == Folded(right).view();
+    return sameBytes(left, right) || folded(left) == folded(right);
 }
 
-qint32 Labels::find(QByteArrayView label) const
+qint32 Labels::find(const Key &key) const
 {
-    return mSlots.empty() ? -1 : mSlots[slotFor(hashOf(label), label)].index;
+    return mSlots.empty() ? -1 : mSlots[slotFor(key.hash, key.label)].index;
 }
 
 Labels::Key Labels::key(QByteArrayView label) const
@@ -62,6 +103,21 @@ Labels::Key Labels::key(QByteArrayView label) const
     if (!mSlots.empty())
         prefetch(&mSlots[hash & (mSlots.size() - 1)]);
     return {label, hash};
+}
+
+void Labels::fetch(std::span<const Key> keys) const
+{
+    if (mSlots.empty())
+        return;
+    const auto forEachFound = [&](auto action) {
+        for (const Key &key : keys) {
+            const Slot &slot = mSlots[key.hash & (mSlots.size() - 1)];
+            if (slot.index >= 0 && slot.hash == key.hash)
+                action(mRefs[size_t(slot.index)]);
+        }
+    };
+    forEachFound([](const TextRef &ref) { prefetch(&ref); });
+    forEachFound([this](TextRef ref) { mArena->fetch(ref); });
 }
 
 qint32 Labels::findOrAdd(const Key &key)
@@ -92,11 +148,24 @@ size_t Labels::slotFor(quint32 hash, QByteArrayView label) const
 
 qint32 Labels::put(size_t slot, quint32 hash, TextRef ref)
 {
-    if (mRefs.size() >= size_t(std::numeric_limits<qint32>::max()) - 1)
-        throw RuntimeError(OutOfMemory);
+    requireNumber();
     mSlots[slot] = {hash, count()};
     mRefs.push_back(ref);
     return count() - 1;
+}
+
+qint32 Labels::addShared(TextRef label)
+{
+    requireNumber();
+    mRefs.push_back(label);
+    return count() - 1;
+}
+
+/// That one more label can have one.
+void Labels::requireNumber() const
+{
+    if (mRefs.size() >= size_t(std::numeric_limits<qint32>::max()) - 1)
+        throw RuntimeError(OutOfMemory);
 }
 
 void Labels::reserve(size_t further)

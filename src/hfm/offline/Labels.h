@@ -3,6 +3,8 @@
 #include "hfm/offline/Texts.h"
 #include "hfm/Values.h"
 
+#include <span>
+
 namespace hfm::offline {
 
 /// Whether two labels are the same: letter case does not count.
@@ -30,9 +32,13 @@ public:
         quint32 hash;
     };
     Key key(QByteArrayView label) const;
+    /// Fetches what looking for the keys will read besides. Waiting for all of them at once takes
+    /// little longer than waiting for one.
+    void fetch(std::span<const Key> keys) const;
 
     /// The label's number, or -1.
-    qint32 find(QByteArrayView label) const;
+    qint32 find(const Key &key) const;
+    qint32 find(QByteArrayView label) const { return find(key(label)); }
     /// The label's number; adds it where there is none of that name. Fails with RuntimeError
     /// OutOfMemory when there are more than the numbers reach.
     qint32 findOrAdd(const Key &key);
@@ -40,6 +46,11 @@ public:
     /// The same, for a label that the arena holds already.
     qint32 findOrAdd(const Key &key, TextRef label);
     qint32 findOrAdd(TextRef label) { return findOrAdd(key(mArena->at(label)), label); }
+
+    /// Adds a label that find() and findOrAdd() do not know, because another table of labels has
+    /// it. The arena holds it already. None is to be added by name after it.
+    qint32 addShared(TextRef label);
+    void reserveShared(size_t further) { mRefs.reserve(mRefs.size() + further); }
 
     /// Numbers the labels anew: `newNumbers[i]` becomes the number of the label numbered i.
     void renumber(const std::vector<qint32> &newNumbers);
@@ -53,6 +64,7 @@ private:
 
     size_t slotFor(quint32 hash, QByteArrayView label) const;
     qint32 put(size_t slot, quint32 hash, TextRef ref);
+    void requireNumber() const;
     void growTo(size_t slots);
     void growIfNeeded();
 

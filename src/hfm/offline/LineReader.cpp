@@ -65,6 +65,8 @@ bool LineReader::fill()
 {
     if (mFileEnded)
         return false;
+    if (mBeforeLinesEnd)
+        mBeforeLinesEnd();
     std::memmove(mBuffer.get(), mBuffer.get() + mStart, size_t(mEnd - mStart));
     mEnd -= mStart;
     mStart = 0;

@@ -28,9 +28,12 @@ public:
     /// Calls `observer` with every piece of the file as it stands there.
     void observe(std::function<void(QByteArrayView)> observer) { mObserver = std::move(observer); }
 
+    /// Calls `action` each time before the lines of the last while stop being valid.
+    void beforeLinesEnd(std::function<void()> action) { mBeforeLinesEnd = std::move(action); }
+
     /// Goes to the next line; false at the file's end.
     bool next();
-    /// The line without its end, valid up to the next call of next().
+    /// The line without its end, valid up to the next call of next(), or of the action above.
     QByteArrayView line() const { return {mBuffer.get() + mLineStart, mLineEnd - mLineStart}; }
     /// The line's number, from 1; 0 before the first.
     qint64 number() const { return mNumber; }
@@ -59,6 +62,7 @@ private:
     Encoding mEncoding;
     Transcoder mTranscoder;
     std::function<void(QByteArrayView)> mObserver;
+    std::function<void()> mBeforeLinesEnd;
     QByteArray mPiece;
 
     std::unique_ptr<char[]> mBuffer; ///< what was read and not yet left behind

@@ -8,7 +8,7 @@ namespace hfm::offline {
 namespace {
 
 /// Adds what a record names; the first record of a name holds.
-void addListed(ListedNames &listed, QByteArrayView label, DescriptionRange descriptions,
+void addListed(ListedNames &listed, QByteArrayView label, TextRef descriptions,
                ApplicationDraft &draft, Place place)
 {
     const qint32 index = listed.names.mention(label, place);

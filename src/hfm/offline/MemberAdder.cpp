@@ -19,13 +19,19 @@ MemberId MemberAdder::add(TextRef label, MemberId parent, bool placeThoseOfFiles
     return place(mDimension.findOrAdd(label, Origin::Client, {}), parent, placeThoseOfFiles);
 }
 
-MemberId MemberAdder::add(TextRef label, MemberId parent, const DescriptionRange &descriptions,
+MemberId MemberAdder::add(TextRef label, MemberId parent, TextRef descriptions,
                           bool placeThoseOfFiles)
 {
-    const MemberId id = add(label, parent, placeThoseOfFiles);
+    const MemberId id = mDimension.findOrAdd(label, Origin::Client, {});
+    put(id, parent, descriptions, placeThoseOfFiles);
+    return id;
+}
+
+void MemberAdder::put(MemberId id, MemberId parent, TextRef descriptions, bool placeThoseOfFiles)
+{
+    place(id, parent, placeThoseOfFiles);
     if (mDimension.origin(id) == Origin::Client)
         mDimension.setDescriptions(id, descriptions);
-    return id;
 }
 
 MemberId MemberAdder::place(MemberId id, MemberId parent, bool placeThoseOfFiles)

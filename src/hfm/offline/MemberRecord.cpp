@@ -4,14 +4,10 @@ namespace hfm::offline {
 
 void MemberRecord::read(QByteArrayView line, Place place, const Layout &layout, char delimiter)
 {
-    constexpr size_t ordinaryLine = size_t(64) << 10;
-    if (mLine.capacity() > ordinaryLine)
-        mLine = {};
-    mLine.assign(line.begin(), line.end());
     mPlace = place;
     mLayout = &layout;
     mDelimiter = delimiter;
-    mFields.split(mLine, delimiter);
+    mFields.split(line, delimiter);
     findParts();
 }
 

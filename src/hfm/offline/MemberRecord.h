@@ -4,11 +4,9 @@
 #include "hfm/offline/Place.h"
 #include "hfm/offline/Syntax.h"
 
-#include <vector>
-
 namespace hfm::offline {
 
-/// One record of a member section, taken apart. It keeps its own copy of the line.
+/// One record of a member section, taken apart; valid for as long as its line.
 class MemberRecord
 {
 public:
@@ -37,7 +35,6 @@ private:
     const Layout *mLayout = nullptr;
     char mDelimiter = ';';
     Place mPlace;
-    std::vector<char> mLine;
     Fields mFields;
     qsizetype mPositional = 0;
     qsizetype mDefaultParent = -1; ///< index of the DefaultParent field

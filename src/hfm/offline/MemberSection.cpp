@@ -60,7 +60,7 @@ void MemberSection::store(const Pending &pending)
     storeAttributes(id, record);
     if (record.hasDefaultParent())
         mDimension.setDefaultParent(id, record.defaultParent(), *mDraft.arena);
-    mDimension.setDescriptions(id, mDescriptions.store(pending.descriptions));
+    mDimension.setDescriptions(id, mDraft.arena->add(pending.descriptions.together()));
 }
 
 void MemberSection::storeAttributes(MemberId id, const MemberRecord &record)

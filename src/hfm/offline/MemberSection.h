@@ -22,7 +22,7 @@ private:
     {
         MemberRecord record;
         Labels::Key label;
-        DescriptionReader::Found descriptions;
+        Descriptions descriptions;
     };
 
     void store(const Pending &pending);

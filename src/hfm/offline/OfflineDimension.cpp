@@ -72,13 +72,14 @@ QString OfflineDimension::GetMemberDescription(MemberId member, qint16 language)
     const qint32 number = mApplication->languageNumbers[size_t(language)];
     if (number < 0)
         return {};
-    const DescriptionRange &range = mDimension.descriptions[size_t(member)];
-    return mApplication->arena->text(mApplication->descriptions.find(range, quint16(number)));
+    const TextRef together = mDimension.descriptions[size_t(member)];
+    return QString::fromUtf8(
+        Descriptions::find(mApplication->arena->at(together), quint16(number)));
 }
 
 MemberId OfflineDimension::GetMemberId(const QString &label)
 {
-    const MemberId member = mDimension.labels.find(label.toUtf8());
+    const MemberId member = mApplication->find(mDimension.kind, label.toUtf8());
     if (member < 0)
         failUnknown(QStringLiteral("'%1' is not a member of %2.")
                         .arg(label, dimensionName(mDimension.kind)));

@@ -151,7 +151,6 @@ private:
         if (mDimension.kind() != kind)
             return;
         records.resize(size_t(mDimension.count()));
-        records.shrink_to_fit();
     }
 
     ApplicationDraft &mDraft;

@@ -18,7 +18,7 @@ struct StoredDimension
     SystemLists lists;
 
     // By member ID.
-    LargeVector<DescriptionRange> descriptions;
+    LargeVector<TextRef> descriptions;    ///< each member's Descriptions
     LargeVector<MemberId> defaultParents; ///< rootMember for a member without a node
     /// The generation of the member, counted along default parents: 1 at the top level.
     LargeVector<qint32> generations;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 
 namespace hfm::offline {
 
@@ -109,12 +110,22 @@ private:
 
     void lookAtEdge(QByteArrayView record)
     {
-        // A record that was cut holds no delimiter and tells nothing.
-        if (const quint32 held = delimitersIn(record))
-            mInEveryEdge &= held;
+        if (!mOnlyInEveryEdge || !record.contains(mOnlyInEveryEdge))
+            noteDelimitersOfEdge(record);
         const char found = beforeTopMember(record);
         if (found && !mBeforeTopMembers.contains(found))
             mBeforeTopMembers.append(found);
+    }
+
+    /// A record that was cut holds no delimiter and tells nothing.
+    void noteDelimitersOfEdge(QByteArrayView record)
+    {
+        const quint32 held = delimitersIn(record);
+        if (held == 0)
+            return;
+        mInEveryEdge &= held;
+        mOnlyInEveryEdge =
+            std::has_single_bit(mInEveryEdge) ? delimiters[std::countr_zero(mInEveryEdge)] : '\0';
     }
 
     static char beforeDefaultParent(QByteArrayView record)
@@ -134,6 +145,7 @@ private:
     bool mInHierarchy = false;
     bool mInMembers = false;
     quint32 mInEveryEdge = ~quint32(0); ///< the delimiters that every record of a hierarchy holds
+    char mOnlyInEveryEdge = '\0';       ///< the one, once there is but one
     QByteArray mBeforeTopMembers;       ///< what records begin with, in order of appearance
     char mByComment = '\0';
     char mByDefaultParent = '\0';

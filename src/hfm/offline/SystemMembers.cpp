@@ -55,8 +55,8 @@ constexpr qint8 balance = 4;
 constexpr qint8 balanceRecurring = 11;
 
 /// The three members of one currency.
-void addCurrency(MemberAdder &adder, TextRef currency, QByteArrayView label,
-                 const DescriptionRange &descriptions, GivenLists &lists)
+void addCurrency(MemberAdder &adder, TextRef currency, QByteArrayView label, TextRef descriptions,
+                 GivenLists &lists)
 {
     const QByteArray name = label.toByteArray();
     const MemberId total = adder.add(QByteArrayView(name + " Total"), rootMember);
@@ -66,6 +66,18 @@ void addCurrency(MemberAdder &adder, TextRef currency, QByteArrayView label,
     lists[SystemList::DefaultCurrencies].append(itself);
     lists[SystemList::Inputs].append(itself);
     lists[SystemList::Adjustments].append(adjustments);
+}
+
+/// For each member of a dimension the label of the same name, or -1.
+LargeVector<qint32> labelsOfMembers(const Labels &labels, const DimensionDraft &dimension)
+{
+    LargeVector<qint32> found(size_t(dimension.count()), -1);
+    for (qint32 i = 0; i < labels.count(); ++i) {
+        const MemberId member = dimension.labels().find(labels.at(i));
+        if (member >= 0)
+            found[size_t(member)] = i;
+    }
+    return found;
 }
 
 /// The file's account of that name, with or without the brackets, or the one that is added.
@@ -102,26 +114,35 @@ GivenLists addValues(ApplicationDraft &draft, const ListedNames &currencies)
     return lists;
 }
 
-GivenLists addIntercompany(ApplicationDraft &draft)
+GivenLists addIntercompany(ApplicationDraft &draft, SharedMembers &partners)
 {
-    MemberAdder adder(draft.dimension(DimensionKind::ICP));
+    DimensionDraft &icp = draft.dimension(DimensionKind::ICP);
+    MemberAdder adder(icp);
     const MemberId top = adder.add(QByteArrayView("[ICP Top]"), rootMember);
     const MemberId none = adder.add(QByteArrayView("[ICP None]"), top);
-    const MemberId entities = adder.add(QByteArrayView("[ICP Entities]"), top);
+    const MemberId parent = adder.add(QByteArrayView("[ICP Entities]"), top);
     const DimensionDraft &all = draft.dimension(DimensionKind::Entity);
-    const auto partners = size_t(std::count_if(all.entities.begin(), all.entities.end(),
-                                               [](const EntityRecord &e) { return e.isICP; }));
-    draft.dimension(DimensionKind::ICP).reserveMembers(partners);
-    draft.dimension(DimensionKind::ICP).reserveEdges(partners);
-    for (size_t i = 0; i < all.entities.size(); ++i) {
-        constexpr size_t ahead = 16;
-        if (i + ahead < all.entities.size() && all.entities[i + ahead].isICP)
-            adder.fetch(all.labels().at(MemberId(i + ahead)));
-        const auto id = MemberId(i);
-        if (all.entities[i].isICP)
-            adder.add(all.labels().ref(id), entities, all.descriptions(id));
+    const auto isPartner = [](const EntityRecord &entity) { return entity.isICP; };
+    const auto count = std::count_if(all.entities.begin(), all.entities.end(), isPartner);
+    icp.reserveShared(size_t(count));
+    icp.reserveEdges(size_t(count));
+    partners.others.reserve(size_t(count));
+
+    const LargeVector<MemberId> standing = labelsOfMembers(icp.labels(), all);
+    partners.first = icp.count();
+    for (MemberId id = 0; id < MemberId(all.entities.size()); ++id) {
+        if (!all.entities[size_t(id)].isICP)
+            continue;
+        if (standing[size_t(id)] >= 0) {
+            adder.put(standing[size_t(id)], parent, all.descriptions(id));
+            continue;
+        }
+        const MemberId partner = icp.addShared(all.labels().ref(id));
+        icp.setDescriptions(partner, all.descriptions(id));
+        icp.addEdge({parent, partner}, {});
+        partners.others.push_back(id);
     }
-    return {{SystemList::System, {top, none, entities}}};
+    return {{SystemList::System, {top, none, parent}}};
 }
 
 GivenLists addSystemAccounts(ApplicationDraft &draft)

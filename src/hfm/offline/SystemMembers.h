@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hfm/offline/ApplicationDraft.h"
+#include "hfm/offline/SharedMembers.h"
 #include "hfm/offline/SystemLists.h"
 
 /// The members that HFM itself gives every application. Each routine adds those of one dimension,
@@ -11,8 +12,9 @@ namespace hfm::offline {
 inline constexpr QByteArrayView noneLabel = "[None]";
 
 GivenLists addValues(ApplicationDraft &draft, const ListedNames &currencies);
-/// The intercompany partners: every entity that is one, in entity order.
-GivenLists addIntercompany(ApplicationDraft &draft);
+/// The intercompany partners: every entity that is one, in entity order. Tells those of them that
+/// only their entities' labels lead to.
+GivenLists addIntercompany(ApplicationDraft &draft, SharedMembers &partners);
 GivenLists addSystemAccounts(ApplicationDraft &draft);
 /// "[None]"; to Custom1 and Custom2 the currencies, to Custom1 the consolidation methods.
 GivenLists addToCustom(ApplicationDraft &draft, DimensionKind custom,
@@ -31,11 +33,11 @@ public:
     /// it gets a node there only if it has none and `placeThoseOfFiles`.
     MemberId add(QByteArrayView label, MemberId parent, bool placeThoseOfFiles = true);
     MemberId add(TextRef label, MemberId parent, bool placeThoseOfFiles = true);
-    /// Has what add() will look at fetched from memory.
-    void fetch(QByteArrayView label) const { static_cast<void>(mDimension.labels().key(label)); }
     /// The same, with the descriptions of a member that is not the files'.
-    MemberId add(TextRef label, MemberId parent, const DescriptionRange &descriptions,
+    MemberId add(TextRef label, MemberId parent, TextRef descriptions,
                  bool placeThoseOfFiles = true);
+    /// The same, for a member that the dimension has.
+    void put(MemberId id, MemberId parent, TextRef descriptions, bool placeThoseOfFiles = true);
 
 private:
     MemberId place(MemberId id, MemberId parent, bool placeThoseOfFiles);

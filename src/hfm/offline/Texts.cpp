@@ -1,6 +1,5 @@
 #include "hfm/offline/Texts.h"
 
-#include "hfm/offline/Prefetch.h"
 #include "runtime/RuntimeError.h"
 
 #include <QHashFunctions>
@@ -61,23 +60,16 @@ QByteArrayView TextArena::longTextAt(const char *byte)
     return {byte + 1 + sizeof length, qsizetype(length)};
 }
 
-TextPool::Key TextPool::key(QByteArrayView text) const
+TextRef TextPool::intern(QByteArrayView text)
 {
-    const auto hash = quint32(qHashBits(text.data(), size_t(text.size())));
-    if (!mSlots.empty())
-        prefetch(&mSlots[hash & (mSlots.size() - 1)]);
-    return {text, hash};
-}
-
-TextRef TextPool::intern(const Key &key)
-{
-    if (key.text.isEmpty())
+    if (text.isEmpty())
         return 0;
     if (3 * mUsed >= 2 * mSlots.size())
         grow();
-    Slot &slot = slotFor(key.hash, key.text);
+    const auto hash = quint32(qHashBits(text.data(), size_t(text.size())));
+    Slot &slot = slotFor(hash, text);
     if (!slot.ref) {
-        slot = {key.hash, mArena.add(key.text)};
+        slot = {hash, mArena.add(text)};
         ++mUsed;
     }
     return slot.ref;
@@ -94,17 +86,14 @@ TextPool::Slot &TextPool::slotFor(quint32 hash, QByteArrayView text)
 {
     const size_t mask = mSlots.size() - 1;
     size_t i = hash & mask;
-    while (mSlots[i].ref && (mSlots[i].hash != hash || mArena.at(mSlots[i].ref) != text))
+    while (mSlots[i].ref && (mSlots[i].hash != hash || !sameBytes(mArena.at(mSlots[i].ref), text)))
         i = (i + 1) & mask;
     return mSlots[i];
 }
 
 void TextPool::grow()
 {
-    // Up to some million slots they are made so many at once that few are moved again.
-    constexpr size_t many = size_t(1) << 20;
-    const size_t factor = mSlots.size() <= many ? 4 : 2;
-    LargeVector<Slot> old(std::max<size_t>(64, factor * mSlots.size()));
+    LargeVector<Slot> old(std::max<size_t>(64, 2 * mSlots.size()));
     old.swap(mSlots);
     const size_t mask = mSlots.size() - 1;
     for (const Slot &slot : old) {

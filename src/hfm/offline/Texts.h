@@ -1,14 +1,23 @@
 #pragma once
 
 #include "hfm/offline/LargeMemory.h"
+#include "hfm/offline/Prefetch.h"
 
 #include <QByteArrayView>
 #include <QString>
 
+#include <cstring>
 #include <memory>
 #include <vector>
 
 namespace hfm::offline {
+
+/// Whether the two are the same to the letter.
+inline bool sameBytes(QByteArrayView left, QByteArrayView right)
+{
+    return left.size() == right.size() &&
+           std::memcmp(left.data(), right.data(), size_t(left.size())) == 0;
+}
 
 /// Stands for a text of an arena; 0 is the empty text.
 using TextRef = quint32;
@@ -30,6 +39,8 @@ public:
         return length < longText ? QByteArrayView(byte + 1, length) : longTextAt(byte);
     }
     QString text(TextRef ref) const { return QString::fromUtf8(at(ref)); }
+    /// Has the text fetched from memory, to be read a little later.
+    void fetch(TextRef ref) const { prefetch(mBlocks[ref / blockSize] + ref % blockSize); }
 
 private:
     // A text stands behind its length: one byte, or `longText` and four bytes.
@@ -51,18 +62,8 @@ class TextPool
 public:
     explicit TextPool(TextArena &arena) : mArena(arena) {}
 
-    /// A text that is about to be interned. Between making the key and using it the table's part
-    /// is fetched.
-    struct Key
-    {
-        QByteArrayView text;
-        quint32 hash;
-    };
-    Key key(QByteArrayView text) const;
-
     /// What stands for a text that is the same to the letter; stores it where there is none.
-    TextRef intern(const Key &key);
-    TextRef intern(QByteArrayView text) { return intern(key(text)); }
+    TextRef intern(QByteArrayView text);
     /// Gives back the pool's memory. Texts that are added later may stand in the arena twice.
     void clear();
 

@@ -1,0 +1,125 @@
+#include "hfm/offline/SectionChoice.h"
+
+#include "hfm/offline/HierarchySection.h"
+#include "hfm/offline/ListSections.h"
+#include "hfm/offline/MemberSection.h"
+
+namespace hfm::offline {
+
+namespace {
+
+struct KnownSection
+{
+    QByteArrayView name;
+    SectionKind kind;
+    bool ofDimension; ///< whether the header's argument is a dimension
+};
+
+constexpr KnownSection knownSections[] = {
+    {"MEMBERS", SectionKind::Members, true},
+    {"HIERARCHIES", SectionKind::Hierarchies, true},
+    {"CURRENCIES", SectionKind::Currencies, false},
+    {"CONSOLIDATION_METHODS", SectionKind::Methods, false},
+    {"APPLICATION_SETTINGS", SectionKind::Settings, false},
+    {"LANGUAGES", SectionKind::Languages, false},
+};
+
+bool isOfProfile(DimensionKind kind)
+{
+    return kind == DimensionKind::Year || kind == DimensionKind::Period ||
+           kind == DimensionKind::View;
+}
+
+} // namespace
+
+Section *SectionChoice::choose(const SectionHeader &header)
+{
+    mRecordsNameParents = false;
+    for (const KnownSection &known : knownSections) {
+        if (!sameWord(header.name, known.name))
+            continue;
+        if (!stands(known.kind))
+            return nullptr;
+        const auto dimension = known.ofDimension ? dimensionNamed(header.argument)
+                                                 : std::optional(DimensionKind::Scenario);
+        if (!dimension)
+            return nullptr;
+        auto &section = mSections[{known.kind, *dimension}];
+        if (!section) {
+            section = newSection(known.kind, *dimension);
+            makeRoom(known.kind, *dimension, header);
+        }
+        mRecordsNameParents = known.kind == SectionKind::Members &&
+                              *dimension != DimensionKind::Value &&
+                              *dimension != DimensionKind::ICP;
+        return section.get();
+    }
+    return nullptr;
+}
+
+/// Whether a section is read from a file of this kind.
+bool SectionChoice::stands(SectionKind kind) const
+{
+    switch (mSource) {
+    case SourceFile::Metadata:
+        return true;
+    case SourceFile::Profile:
+        return kind == SectionKind::Languages || kind == SectionKind::Members ||
+               kind == SectionKind::Hierarchies;
+    case SourceFile::Security:
+    case SourceFile::MemberLists:
+        break;
+    }
+    return false;
+}
+
+void SectionChoice::makeRoom(SectionKind kind, DimensionKind dimension, const SectionHeader &header)
+{
+    const auto found = mSurvey.records.find(sectionKey(header.name, header.argument));
+    if (found == mSurvey.records.end())
+        return;
+    // What a file promises beyond a few million is believed when it is met.
+    const size_t records = std::min(size_t(found->second), size_t(1) << 22);
+    if (kind == SectionKind::Members)
+        mDraft.dimension(dimension).reserveMembers(records);
+    else if (kind == SectionKind::Hierarchies)
+        mDraft.dimension(dimension).reserveEdges(records);
+}
+
+std::unique_ptr<Section> SectionChoice::newSection(SectionKind kind, DimensionKind dimension)
+{
+    switch (kind) {
+    case SectionKind::Members:
+        return std::make_unique<MemberSection>(mDraft, dimension, mSurvey.delimiter);
+    case SectionKind::Hierarchies:
+        return std::make_unique<HierarchySection>(mDraft, dimension, mSurvey.delimiter);
+    case SectionKind::Currencies:
+        return std::make_unique<CurrencySection>(mDraft, mSurvey.delimiter);
+    case SectionKind::Methods:
+        return std::make_unique<MethodSection>(mDraft, mSurvey.delimiter);
+    case SectionKind::Settings:
+        return std::make_unique<SettingsSection>(mDraft);
+    case SectionKind::Languages:
+        break;
+    }
+    return std::make_unique<NameSection>(mDraft.listedLanguages, mSurvey.delimiter);
+}
+
+/// A custom dimension goes by its own name before the name that this program has for it.
+std::optional<DimensionKind> SectionChoice::dimensionNamed(QByteArrayView name) const
+{
+    for (qsizetype k = 0; k < mDraft.customNames.size(); ++k) {
+        if (sameLabel(mDraft.customNames[k], name))
+            return k < 4 && mSource == SourceFile::Metadata
+                       ? std::optional(DimensionKind(int(DimensionKind::Custom1) + int(k)))
+                       : std::nullopt;
+    }
+    for (const DimensionKind kind : allDimensionKinds) {
+        if (dimensionName(kind).compare(QLatin1StringView(name), Qt::CaseInsensitive) == 0)
+            return mSource == SourceFile::Metadata || isOfProfile(kind) ? std::optional(kind)
+                                                                        : std::nullopt;
+    }
+    return std::nullopt;
+}
+
+} // namespace hfm::offline

@@ -15,6 +15,7 @@ namespace {
 constexpr qsizetype fullBuffer = 1 << 16;
 /// Small, as a row that was written in two columns is read from two places of the file.
 constexpr qint64 readAtOnce = 1 << 13;
+constexpr qsizetype mostBytesOfACell = CellText::mostBytes + 64; // with its NUL and tail
 constexpr qint64 mostXmlBytesAroundACell = 80;
 constexpr qint64 mostXmlBytesOfACharacter = 5; // "&amp;"
 
@@ -36,7 +37,10 @@ int lastError()
 } // namespace
 
 CellSpool::CellSpool(const QString &path, QString workbook)
-    : mFile(path), mWorkbook(std::move(workbook)), mSeenIn(mostColumns + 1)
+    : mFile(path), mWorkbook(std::move(workbook)),
+      // A chunk begins before the buffer is full, and ends with the cell that makes it full.
+      mUnwritten(2 * (fullBuffer + qsizetype(sizeof(Head))) + mostBytesOfACell, Qt::Uninitialized),
+      mSeenIn(mostColumns + 1)
 {
     errno = 0;
     if (!mFile.open(QIODevice::ReadWrite | QIODevice::NewOnly | QIODevice::Unbuffered))
@@ -47,15 +51,23 @@ bool CellSpool::setCell(qint32 row, qint32 column, QStringView text)
 {
     if (row < 1 || row > mostRows || column < 1 || column > mostColumns)
         throw noSuchCell(row, column, mWorkbook);
-    if (row != mRow || mUnwritten.size() - mChunk > fullBuffer)
+    if (row != mRow || mUsed - mChunk > fullBuffer)
         beginChunk(row);
-    const qsizetype start = mUnwritten.size();
-    const bool isWhole = CellText::append(text, mUnwritten);
-    mUnwritten.append('\0');
-    const Tail tail{column, qint32(mUnwritten.size() - start)};
-    mUnwritten.append(reinterpret_cast<const char *>(&tail), sizeof tail);
+    char *const start = mUnwritten.data() + mUsed;
+    auto [end, isWhole] = CellText::write(text, start);
+    *end++ = '\0';
+    const Tail tail{column, qint32(end - start)};
+    mUsed += tail.size;
+    append(tail);
     mMostXmlBytes += mostXmlBytesAroundACell + mostXmlBytesOfACharacter * tail.size;
     return isWhole;
+}
+
+template <typename Value>
+void CellSpool::append(const Value &value)
+{
+    std::memcpy(mUnwritten.data() + mUsed, &value, sizeof value);
+    mUsed += qsizetype(sizeof value);
 }
 
 void CellSpool::beginChunk(qint32 row)
@@ -64,9 +76,8 @@ void CellSpool::beginChunk(qint32 row)
     if (row > rowCount())
         mNewest.resize(size_t(row), none);
     mRow = row;
-    mChunk = mUnwritten.size();
-    const Head head{mNewest[size_t(row - 1)], 0};
-    mUnwritten.append(reinterpret_cast<const char *>(&head), sizeof head);
+    mChunk = mUsed;
+    append(Head{mNewest[size_t(row - 1)], 0});
     mNewest[size_t(row - 1)] = mWritten + mChunk;
 }
 
@@ -74,17 +85,17 @@ void CellSpool::endChunk()
 {
     if (mRow == 0)
         return;
-    const qint64 size = mUnwritten.size() - mChunk - qsizetype(sizeof(Head));
+    const qint64 size = mUsed - mChunk - qsizetype(sizeof(Head));
     std::memcpy(mUnwritten.data() + mChunk + offsetof(Head, size), &size, sizeof size);
     mRow = 0;
-    if (mUnwritten.size() > fullBuffer)
+    if (mUsed > fullBuffer)
         flush();
 }
 
 void CellSpool::flush()
 {
     const char *bytes = mUnwritten.constData();
-    const char *const end = bytes + mUnwritten.size();
+    const char *const end = bytes + mUsed;
     while (bytes != end) {
         errno = 0;
         const qint64 count = mFile.write(bytes, end - bytes);
@@ -92,8 +103,8 @@ void CellSpool::flush()
             throw errorFromSystem(lastError(), mWorkbook);
         bytes += count;
     }
-    mWritten += mUnwritten.size();
-    mUnwritten.resize(0);
+    mWritten += mUsed;
+    mUsed = 0;
 }
 
 void CellSpool::endWriting()

@@ -54,6 +54,8 @@ private:
     };
     static constexpr qint64 none = -1;
 
+    template <typename Value>
+    void append(const Value &value);
     void beginChunk(qint32 row);
     void endChunk();
     void flush();
@@ -65,6 +67,7 @@ private:
     qint64 mMostXmlBytes = 0;
 
     QByteArray mUnwritten; ///< what follows on the file's bytes; its last chunk is being filled
+    qsizetype mUsed = 0;   ///< of mUnwritten
     qint64 mWritten = 0;   ///< bytes in the file
     qint32 mRow = 0;       ///< of the chunk that is being filled; 0: none
     qsizetype mChunk = 0;  ///< its position in mUnwritten

@@ -6,7 +6,6 @@
 namespace {
 
 constexpr qsizetype escapeLength = 7;
-constexpr qsizetype mostBytesOfAUnit = 3; // an escape has one for each of its units
 
 bool isHexDigit(QChar character)
 {
@@ -79,22 +78,25 @@ bool isPlain(QChar unit)
     return unit.unicode() >= 0x20 && unit.unicode() < 0x80 && unit != u'_';
 }
 
+/// What nearly every text is; said without a branch, so that many characters are looked at at once.
+bool isPlain(QStringView text)
+{
+    bool isAll = true;
+    for (const QChar unit : text)
+        isAll &= isPlain(unit);
+    return isAll;
+}
+
 } // namespace
 
-bool CellText::append(QStringView text, QByteArray &utf8)
+CellText::Written CellText::write(QStringView text, char *out)
 {
-    const qsizetype start = utf8.size();
-    utf8.resize(start + std::min(text.size() * escapeLength, longest * mostBytesOfAUnit));
-    char *const begin = utf8.data();
-    char *out = begin + start;
-    qsizetype room = longest;
-    while (!text.isEmpty()) {
-        if (isPlain(text.front()) && room > 0) {
-            *out++ = char(text.front().unicode());
-            --room;
-            text = text.sliced(1);
-            continue;
-        }
+    if (text.size() <= longest && isPlain(text)) {
+        for (const QChar unit : text)
+            *out++ = char(unit.unicode());
+        return {out, true};
+    }
+    for (qsizetype room = longest; !text.isEmpty();) {
         const Next next = nextOf(text);
         const qsizetype taken = next.isEscaped ? escapeLength : next.units;
         if (taken > room)
@@ -104,6 +106,5 @@ bool CellText::append(QStringView text, QByteArray &utf8)
         room -= taken;
         text = text.sliced(next.units);
     }
-    utf8.resize(out - begin);
-    return text.isEmpty();
+    return {out, text.isEmpty()};
 }

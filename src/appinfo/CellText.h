@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QByteArray>
 #include <QStringView>
 
 /// The text of a workbook file's cell: XML in UTF-8 that writes a character which XML does not
@@ -13,8 +12,16 @@ namespace CellText {
 /// The most characters that a cell holds, in UTF-16 units; an escape counts with all its seven.
 constexpr qsizetype longest = 32'767;
 
-/// Appends `text`, whole characters and escapes of it up to the longest that a cell holds. False
-/// where that is not all of it.
-bool append(QStringView text, QByteArray &utf8);
+/// The most bytes that write() writes.
+constexpr qsizetype mostBytes = 3 * longest;
+
+struct Written
+{
+    char *end;
+    bool isWhole; ///< nothing was cut off
+};
+
+/// Writes `text` to `out`, whole characters and escapes of it up to the longest that a cell holds.
+Written write(QStringView text, char *out);
 
 } // namespace CellText

@@ -10,6 +10,7 @@ from .attributes import (ACCOUNT_COLUMNS, CUSTOM_COLUMNS, ENTITY_COLUMNS, LONGER
 from .lists import write_currencies, write_methods
 from .model import Dimension
 from .outline import Planter, read_outline, read_vocabularies
+from .xml_file import XmlFile
 
 HERE = Path(__file__).parent
 LANGUAGES = ["English", "German"]
@@ -41,8 +42,9 @@ def entity_attributes(kind, options, is_parent):
             } | {names[name]: value for name, value in options.items()}
 
 
-def make_zenith(folder):
-    """Writes Zenith.app into `folder`; without a profile, so years and periods are the usual."""
+def make_zenith(folder, twin_folder):
+    """Writes Zenith.app into `folder` and the same as Zenith.xml into `twin_folder`; without a
+    profile, so years and periods are the usual."""
     words = {name: [without_french(row) for row in rows] for name, rows in (
         read_vocabularies(HERE / "vocabularies.txt")
         | read_vocabularies(HERE / "meridian_group.txt")
@@ -52,8 +54,11 @@ def make_zenith(folder):
     dimensions = make_dimensions(words)
     for dimension in dimensions.values():
         dimension.check()
-    folder.mkdir(parents=True, exist_ok=True)
-    (folder / "Zenith.app").write_bytes(metadata(words, dimensions))
+    for path, file in [(folder / "Zenith.app", AppFile(",", "cp1252", mark=False)),
+                       (twin_folder / "Zenith.xml", XmlFile())]:
+        path.parent.mkdir(parents=True, exist_ok=True)
+        write_metadata(file, words, dimensions)
+        path.write_bytes(file.bytes())
 
 
 def without_french(row):
@@ -72,8 +77,7 @@ def make_dimensions(words):
     return dimensions
 
 
-def metadata(words, dimensions):
-    file = AppFile(",", "cp1252", mark=False)
+def write_metadata(file, words, dimensions):
     file.section("FILE_FORMAT", "4.1")
     file.section("APPLICATION_SETTINGS")
     file.line("DefaultCurrency=EUR")
@@ -87,4 +91,3 @@ def metadata(words, dimensions):
         file.hierarchy(dimension, with_weights=name in CUSTOMS)
     write_methods(file, LANGUAGES, words)
     write_currencies(file, LANGUAGES, words)
-    return file.bytes()

@@ -51,6 +51,88 @@ PL;SALES
 PL;COST
 )";
 
+/// The same in XML format.
+inline constexpr char xmlMetadata[] = R"(<?xml version="1.0" encoding="UTF-8"?>
+<METADATA Version="11.12">
+  <MISC Name="AppSettings"><MISCENTRY><LABEL>Application</LABEL><AT Name="DefaultCurrency">EUR</AT></MISCENTRY></MISC>
+  <MISC Name="Currencies">
+    <MISCENTRY><LABEL>EUR</LABEL><AT Name="Scale">0</AT><DESCRIPTION Language="English">Euro</DESCRIPTION></MISCENTRY>
+    <MISCENTRY><LABEL>USD</LABEL><AT Name="Scale">0</AT><DESCRIPTION Language="English">US dollar</DESCRIPTION></MISCENTRY>
+  </MISC>
+  <DIMENSION Name="Entity">
+    <MEMBER><LABEL>[None]</LABEL>
+      <AT Name="AllowAdjs">N</AT><AT Name="IsICP">N</AT><AT Name="AllowAdjFromChildren">N</AT>
+      <DEFAULTPARENT>#root</DEFAULTPARENT></MEMBER>
+    <MEMBER><LABEL>GROUP</LABEL>
+      <AT Name="DefCurrency">EUR</AT><AT Name="AllowAdjs">Y</AT><AT Name="IsICP">N</AT><AT Name="AllowAdjFromChildren">N</AT><AT Name="SecurityClass">SC_GRP</AT><AT Name="UserDefined1">Holding</AT><AT Name="UserDefined3">x y</AT>
+      <DEFAULTPARENT>#root</DEFAULTPARENT><DESCRIPTION Language="English">Group</DESCRIPTION><DESCRIPTION Language="French">Groupe</DESCRIPTION></MEMBER>
+    <MEMBER><LABEL>EAST</LABEL>
+      <AT Name="DefCurrency">EUR</AT><AT Name="AllowAdjs">N</AT><AT Name="IsICP">N</AT><AT Name="AllowAdjFromChildren">N</AT>
+      <DEFAULTPARENT>LEGAL</DEFAULTPARENT><DESCRIPTION Language="English">East</DESCRIPTION></MEMBER>
+    <MEMBER><LABEL>E1</LABEL>
+      <AT Name="DefCurrency">USD</AT><AT Name="AllowAdjs">N</AT><AT Name="IsICP">Y</AT><AT Name="AllowAdjFromChildren">Y</AT><AT Name="UserDefined2">US</AT>
+      <DEFAULTPARENT>EAST</DEFAULTPARENT><DESCRIPTION Language="English">Unit 1, East</DESCRIPTION><DESCRIPTION Language="French">Unité 1</DESCRIPTION></MEMBER>
+    <MEMBER><LABEL>E2</LABEL>
+      <AT Name="DefCurrency">EUR</AT><AT Name="AllowAdjs">N</AT><AT Name="IsICP">Y</AT><AT Name="AllowAdjFromChildren">N</AT>
+      <DEFAULTPARENT>WEST</DEFAULTPARENT><DESCRIPTION Language="English">Unit 2</DESCRIPTION></MEMBER>
+    <MEMBER><LABEL>WEST</LABEL>
+      <AT Name="DefCurrency">EUR</AT><AT Name="AllowAdjs">N</AT><AT Name="IsICP">N</AT><AT Name="AllowAdjFromChildren">N</AT>
+      <DEFAULTPARENT>GROUP</DEFAULTPARENT><DESCRIPTION Language="English">West</DESCRIPTION></MEMBER>
+    <MEMBER><LABEL>E3</LABEL>
+      <AT Name="DefCurrency">EUR</AT><AT Name="AllowAdjs">N</AT><AT Name="IsICP">N</AT><AT Name="AllowAdjFromChildren">N</AT>
+      <DEFAULTPARENT>WEST</DEFAULTPARENT><DESCRIPTION Language="English">Unit 3</DESCRIPTION></MEMBER>
+    <MEMBER><LABEL>LEGAL</LABEL>
+      <AT Name="DefCurrency">EUR</AT><AT Name="AllowAdjs">N</AT><AT Name="IsICP">N</AT><AT Name="AllowAdjFromChildren">N</AT>
+      <DEFAULTPARENT>#root</DEFAULTPARENT><DESCRIPTION Language="English">Legal view</DESCRIPTION></MEMBER>
+    <MEMBER><LABEL>SPARE</LABEL>
+      <AT Name="DefCurrency">EUR</AT><AT Name="AllowAdjs">N</AT><AT Name="IsICP">N</AT><AT Name="AllowAdjFromChildren">N</AT>
+      <DEFAULTPARENT>#root</DEFAULTPARENT></MEMBER>
+    <NODE><PARENT></PARENT><CHILD>[None]</CHILD></NODE>
+    <NODE><PARENT></PARENT><CHILD>GROUP</CHILD></NODE>
+    <NODE><PARENT>GROUP</PARENT><CHILD>EAST</CHILD></NODE>
+    <NODE><PARENT>EAST</PARENT><CHILD>E1</CHILD></NODE>
+    <NODE><PARENT>EAST</PARENT><CHILD>E2</CHILD></NODE>
+    <NODE><PARENT>GROUP</PARENT><CHILD>WEST</CHILD></NODE>
+    <NODE><PARENT>WEST</PARENT><CHILD>E2</CHILD></NODE>
+    <NODE><PARENT>WEST</PARENT><CHILD>E3</CHILD></NODE>
+    <NODE><PARENT></PARENT><CHILD>LEGAL</CHILD></NODE>
+    <NODE><PARENT>LEGAL</PARENT><CHILD>EAST</CHILD></NODE>
+  </DIMENSION>
+  <DIMENSION Name="Custom1">
+    <MEMBER><LABEL>[None]</LABEL>
+      <AT Name="IsCalculated">N</AT><AT Name="SwitchSignForFlow">N</AT><AT Name="SwitchTypeForFlow">N</AT>
+      <DEFAULTPARENT>#root</DEFAULTPARENT></MEMBER>
+    <MEMBER><LABEL>CLO</LABEL>
+      <AT Name="IsCalculated">N</AT><AT Name="SwitchSignForFlow">N</AT><AT Name="SwitchTypeForFlow">N</AT><AT Name="UserDefined1">c1</AT><AT Name="UserDefined3">c3</AT><AT Name="SecurityClass">SC_PL</AT>
+      <DEFAULTPARENT>#root</DEFAULTPARENT><DESCRIPTION Language="English">Closing</DESCRIPTION></MEMBER>
+    <MEMBER><LABEL>OPE</LABEL>
+      <AT Name="IsCalculated">N</AT><AT Name="SwitchSignForFlow">N</AT><AT Name="SwitchTypeForFlow">N</AT>
+      <DEFAULTPARENT>CLO</DEFAULTPARENT><DESCRIPTION Language="English">Opening</DESCRIPTION></MEMBER>
+    <MEMBER><LABEL>Éco</LABEL>
+      <AT Name="IsCalculated">N</AT><AT Name="SwitchSignForFlow">N</AT><AT Name="SwitchTypeForFlow">N</AT>
+      <DEFAULTPARENT>#root</DEFAULTPARENT></MEMBER>
+    <NODE><PARENT></PARENT><CHILD>[None]</CHILD><AT Name="AggrWeight">1</AT></NODE>
+    <NODE><PARENT></PARENT><CHILD>CLO</CHILD><AT Name="AggrWeight">1</AT></NODE>
+    <NODE><PARENT>CLO</PARENT><CHILD>OPE</CHILD><AT Name="AggrWeight">1</AT></NODE>
+    <NODE><PARENT></PARENT><CHILD>Éco</CHILD><AT Name="AggrWeight">1</AT></NODE>
+  </DIMENSION>
+  <DIMENSION Name="Account">
+    <MEMBER><LABEL>PL</LABEL>
+      <AT Name="AccountType">GROUPLABEL</AT><AT Name="IsCalculated">N</AT><AT Name="IsConsolidated">N</AT><AT Name="IsICP">N</AT><AT Name="NumDecimalPlaces">0</AT><AT Name="UsesLineItems">N</AT><AT Name="EnableCustom1Aggr">N</AT><AT Name="EnableCustom2Aggr">N</AT><AT Name="EnableCustom3Aggr">N</AT><AT Name="EnableCustom4Aggr">N</AT><AT Name="EnableDataAudit">N</AT>
+      <DEFAULTPARENT>#root</DEFAULTPARENT><DESCRIPTION Language="English">Result</DESCRIPTION></MEMBER>
+    <MEMBER><LABEL>SALES</LABEL>
+      <AT Name="AccountType">REVENUE</AT><AT Name="IsCalculated">N</AT><AT Name="IsConsolidated">Y</AT><AT Name="IsICP">R</AT><AT Name="Custom1TopMember">CLO</AT><AT Name="Custom2TopMember">[None]</AT><AT Name="NumDecimalPlaces">2</AT><AT Name="UsesLineItems">Y</AT><AT Name="EnableCustom1Aggr">Y</AT><AT Name="EnableCustom2Aggr">N</AT><AT Name="EnableCustom3Aggr">Y</AT><AT Name="EnableCustom4Aggr">N</AT><AT Name="UserDefined1">one</AT><AT Name="UserDefined2">two</AT><AT Name="UserDefined3">three</AT><AT Name="SecurityClass">SC_PL</AT><AT Name="EnableDataAudit">N</AT>
+      <DEFAULTPARENT>PL</DEFAULTPARENT><DESCRIPTION Language="English">Sales</DESCRIPTION></MEMBER>
+    <MEMBER><LABEL>COST</LABEL>
+      <AT Name="AccountType">EXPENSE</AT><AT Name="IsCalculated">Y</AT><AT Name="IsConsolidated">N</AT><AT Name="IsICP">Y</AT><AT Name="NumDecimalPlaces">0</AT><AT Name="UsesLineItems">N</AT><AT Name="EnableCustom1Aggr">N</AT><AT Name="EnableCustom2Aggr">N</AT><AT Name="EnableCustom3Aggr">N</AT><AT Name="EnableCustom4Aggr">N</AT><AT Name="EnableDataAudit">N</AT>
+      <DEFAULTPARENT>PL</DEFAULTPARENT><DESCRIPTION Language="English">Costs</DESCRIPTION></MEMBER>
+    <NODE><PARENT></PARENT><CHILD>PL</CHILD></NODE>
+    <NODE><PARENT>PL</PARENT><CHILD>SALES</CHILD></NODE>
+    <NODE><PARENT>PL</PARENT><CHILD>COST</CHILD></NODE>
+  </DIMENSION>
+</METADATA>
+)";
+
 inline constexpr char profile[] = R"(!LANGUAGES
 English
 French

@@ -45,10 +45,11 @@ private:
 class OfflineUnderTest final : public ClientUnderTest
 {
 public:
-    OfflineUnderTest() : mUser(mFolder.filePath(cluster)), mFactory(mUser, mUser)
+    OfflineUnderTest(const QString &metadataName, const char *metadata)
+        : mUser(mFolder.filePath(cluster)), mFactory(mUser, mUser)
     {
         QDir(mFolder.path()).mkdir(cluster);
-        write(u"Contract.app"_s, ContractFiles::metadata);
+        write(metadataName, metadata);
         write(u"Contract.profile"_s, ContractFiles::profile);
         write(u"Contract.sec"_s, ContractFiles::security);
         mApplication = mUser.choose(mFolder.filePath(cluster));
@@ -87,6 +88,7 @@ private:
 int main(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
-    OfflineUnderTest client;
-    return checkContract(client, argc, argv);
+    OfflineUnderTest app(u"Contract.app"_s, ContractFiles::metadata);
+    OfflineUnderTest xml(u"Contract.xml"_s, ContractFiles::xmlMetadata);
+    return checkContract(app, argc, argv) + checkContract(xml, argc, argv);
 }

@@ -7,7 +7,8 @@ import unittest
 from pathlib import Path
 
 SAMPLES = Path(__file__).resolve().parents[2] / "samples"
-MADE = ["Meridian/Meridian.app", "Meridian/Meridian.profile", "Zenith.app"]
+MADE = ["Alderbrook-XML/Zenith.xml", "Alderbrook/Meridian/Meridian.app",
+        "Alderbrook/Meridian/Meridian.profile", "Alderbrook/Zenith.app"]
 
 
 class MakeSamples(unittest.TestCase):
@@ -20,7 +21,7 @@ class MakeSamples(unittest.TestCase):
             for name in MADE:
                 # Not assertEqual: it would print both files.
                 self.assertTrue((Path(folder) / name).read_bytes()
-                                == (SAMPLES / "Alderbrook" / name).read_bytes(), name)
+                                == (SAMPLES / name).read_bytes(), name)
 
 
 if __name__ == "__main__":

@@ -2,6 +2,7 @@
 #include "hfm/offline/Application.h"
 #include "hfm/offline/ReadingError.h"
 #include "hfm/offline/SecurityFile.h"
+#include "hfm/offline/XmlFile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -55,6 +56,17 @@ void readMemberListFile(QIODevice &device, ApplicationDraft &draft)
     draft.memberListFile = {content, 1};
 }
 
+/// Of metadata in both formats that in APP format is read.
+void warnOfOtherMetadata(const ApplicationFiles &files, ApplicationDraft &draft)
+{
+    if (files.otherMetadata.isEmpty())
+        return;
+    draft.warnings.add(Place(SourceFile::Metadata, 0), [&] {
+        return QStringLiteral("%1 stands beside this file; it is not read.")
+            .arg(QFileInfo(files.otherMetadata).fileName());
+    });
+}
+
 std::shared_ptr<const Application> readFiles(const ApplicationFiles &files, int currentYear)
 {
     Warnings warnings;
@@ -62,7 +74,11 @@ std::shared_ptr<const Application> readFiles(const ApplicationFiles &files, int 
     ApplicationDraft draft(warnings);
     QFile metadata(files.metadata);
     openFile(metadata);
-    readMetadataFile(metadata, draft);
+    if (files.isXml)
+        readXmlMetadataFile(metadata, draft);
+    else
+        readMetadataFile(metadata, draft);
+    warnOfOtherMetadata(files, draft);
     readOptional(files.profile, SourceFile::Profile, draft, readProfileFile);
     readOptional(files.security, SourceFile::Security, draft, readSecurityFile);
     readOptional(files.memberLists, SourceFile::MemberLists, draft, readMemberListFile);
@@ -74,10 +90,6 @@ std::shared_ptr<const Application> readFiles(const ApplicationFiles &files, int 
 std::shared_ptr<const Application> readApplication(const ApplicationFiles &files, int currentYear)
 {
     const QString name = QFileInfo(files.metadata).fileName();
-    if (files.isXml)
-        throw ReadingError(name, 0,
-                           QStringLiteral("Metadata in XML format cannot be read yet. Extract the "
-                                          "application in APP format."));
     try {
         return readFiles(files, currentYear);
     } catch (const ReadingError &) {

@@ -18,11 +18,14 @@ void addFile(ApplicationFiles &files, const QFileInfo &file)
             where = path;
     };
     if (extension == QLatin1StringView("app") && (files.metadata.isEmpty() || files.isXml)) {
+        files.otherMetadata = files.metadata;
         files.metadata = path;
         files.isXml = false;
     } else if (extension == QLatin1StringView("xml") && files.metadata.isEmpty()) {
         files.metadata = path;
         files.isXml = true;
+    } else if (extension == QLatin1StringView("xml") && !files.isXml) {
+        set(files.otherMetadata);
     } else if (extension == QLatin1StringView("profile")) {
         set(files.profile);
     } else if (extension == QLatin1StringView("sec")) {

@@ -8,12 +8,13 @@ namespace hfm::offline {
 /// The files of one application; full paths, empty for a file that is not there.
 struct ApplicationFiles
 {
-    QString name;        ///< the files' base name
-    QString metadata;    ///< .app, or .xml where there is no .app
-    bool isXml = false;  ///< which of the two it is
-    QString profile;     ///< .profile
-    QString security;    ///< .sec
-    QString memberLists; ///< .lst
+    QString name;          ///< the files' base name
+    QString metadata;      ///< .app, or .xml where there is no .app
+    bool isXml = false;    ///< which of the two it is
+    QString otherMetadata; ///< .xml where there is an .app as well; it is not read
+    QString profile;       ///< .profile
+    QString security;      ///< .sec
+    QString memberLists;   ///< .lst
 };
 
 /// The applications of a cluster: sets of files of one base name that stand in its folder, and in

@@ -1,5 +1,6 @@
 #include "hfm/offline/SectionChoice.h"
 
+#include "hfm/offline/DimensionNames.h"
 #include "hfm/offline/HierarchySection.h"
 #include "hfm/offline/ListSections.h"
 #include "hfm/offline/MemberSection.h"
@@ -40,7 +41,7 @@ Section *SectionChoice::choose(const SectionHeader &header)
             continue;
         if (!stands(known.kind))
             return nullptr;
-        const auto dimension = known.ofDimension ? dimensionNamed(header.argument)
+        const auto dimension = known.ofDimension ? dimensionOf(header.argument)
                                                  : std::optional(DimensionKind::Scenario);
         if (!dimension)
             return nullptr;
@@ -105,21 +106,11 @@ std::unique_ptr<Section> SectionChoice::newSection(SectionKind kind, DimensionKi
     return std::make_unique<NameSection>(mDraft.listedLanguages, mSurvey.delimiter);
 }
 
-/// A custom dimension goes by its own name before the name that this program has for it.
-std::optional<DimensionKind> SectionChoice::dimensionNamed(QByteArrayView name) const
+std::optional<DimensionKind> SectionChoice::dimensionOf(QByteArrayView argument) const
 {
-    for (qsizetype k = 0; k < mDraft.customNames.size(); ++k) {
-        if (sameLabel(mDraft.customNames[k], name))
-            return k < 4 && mSource == SourceFile::Metadata
-                       ? std::optional(DimensionKind(int(DimensionKind::Custom1) + int(k)))
-                       : std::nullopt;
-    }
-    for (const DimensionKind kind : allDimensionKinds) {
-        if (dimensionName(kind).compare(QLatin1StringView(name), Qt::CaseInsensitive) == 0)
-            return mSource == SourceFile::Metadata || isOfProfile(kind) ? std::optional(kind)
-                                                                        : std::nullopt;
-    }
-    return std::nullopt;
+    const auto dimension = dimensionNamed(argument, mDraft.customNames);
+    const bool isRead = dimension && (mSource == SourceFile::Metadata || isOfProfile(*dimension));
+    return isRead ? dimension : std::nullopt;
 }
 
 } // namespace hfm::offline

@@ -38,7 +38,7 @@ private:
     bool stands(SectionKind kind) const;
     void makeRoom(SectionKind kind, DimensionKind dimension, const SectionHeader &header);
     std::unique_ptr<Section> newSection(SectionKind kind, DimensionKind dimension);
-    std::optional<DimensionKind> dimensionNamed(QByteArrayView name) const;
+    std::optional<DimensionKind> dimensionOf(QByteArrayView argument) const;
 
     ApplicationDraft &mDraft;
     SourceFile mSource;

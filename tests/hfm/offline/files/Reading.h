@@ -41,7 +41,8 @@ struct Reading
         QStringList lines;
         const auto list = application->warnings.list();
         for (const hfm::offline::Warning &warning : list)
-            lines.append(warning.file.endsWith(QStringLiteral(".app"))
+            lines.append(warning.file.endsWith(QLatin1StringView(".app")) ||
+                                 warning.file.endsWith(QLatin1StringView(".xml"))
                              ? QStringLiteral("%1: %2").arg(warning.line).arg(warning.text)
                              : hfm::offline::withPlace(warning.file, warning.line, warning.text));
         return lines;
@@ -104,11 +105,11 @@ struct FileTexts
     QByteArray security = {};
 };
 
-/// Reads the application "Test" that has these files.
-inline Reading readTexts(const FileTexts &texts)
+/// Reads the application "Test" that has these files, its metadata in the file of that name.
+inline Reading readTexts(const FileTexts &texts, const QString &metadataName)
 {
     const ClusterFolder cluster;
-    cluster.write(QStringLiteral("Test.app"), texts.metadata);
+    cluster.write(metadataName, texts.metadata);
     if (!texts.profile.isNull())
         cluster.write(QStringLiteral("Test.profile"), texts.profile);
     if (!texts.security.isNull())
@@ -116,7 +117,22 @@ inline Reading readTexts(const FileTexts &texts)
     return readFiles(cluster.applications().first());
 }
 
+inline Reading readTexts(const FileTexts &texts)
+{
+    return readTexts(texts, QStringLiteral("Test.app"));
+}
+
+inline Reading readXmlTexts(const FileTexts &texts)
+{
+    return readTexts(texts, QStringLiteral("Test.xml"));
+}
+
 inline Reading readText(const QByteArray &metadata)
 {
     return readTexts({metadata});
+}
+
+inline Reading readXml(const QByteArray &metadata)
+{
+    return readXmlTexts({metadata});
 }

@@ -16,8 +16,6 @@ constexpr qsizetype fullBuffer = 1 << 16;
 /// Small, as a row that was written in two columns is read from two places of the file.
 constexpr qint64 readAtOnce = 1 << 13;
 constexpr qsizetype mostBytesOfACell = CellText::mostBytes + 64; // with its NUL and tail
-constexpr qint64 mostXmlBytesAroundACell = 80;
-constexpr qint64 mostXmlBytesOfACharacter = 5; // "&amp;"
 
 RuntimeError noSuchCell(qint32 row, qint32 column, const QString &workbook)
 {
@@ -59,7 +57,6 @@ bool CellSpool::setCell(qint32 row, qint32 column, QStringView text)
     const Tail tail{column, qint32(end - start)};
     mUsed += tail.size;
     append(tail);
-    mMostXmlBytes += mostXmlBytesAroundACell + mostXmlBytesOfACharacter * tail.size;
     return isWhole;
 }
 

@@ -30,8 +30,6 @@ public:
     void endWriting();
     /// The last row that has a cell, from 1; 0 where there is none.
     qint32 rowCount() const { return qint32(mNewest.size()); }
-    /// No less than the bytes of these cells in a worksheet's XML.
-    qint64 mostXmlBytes() const { return mMostXmlBytes; }
 
     /// Takes a cell's column and its text in UTF-8, ended with a NUL.
     using Visit = std::function<void(qint32 column, const char *text)>;
@@ -64,7 +62,6 @@ private:
     QFile mFile;
     QString mWorkbook;
     std::vector<qint64> mNewest; ///< the place of each row's newest chunk
-    qint64 mMostXmlBytes = 0;
 
     QByteArray mUnwritten; ///< what follows on the file's bytes; its last chunk is being filled
     qsizetype mUsed = 0;   ///< of mUnwritten

@@ -116,15 +116,12 @@ QString WorkbookFile::inFolder(const QString &name) const
 
 void WorkbookFile::write(const QString &file)
 {
-    qint64 mostXmlBytes = 0;
+    WorkbookWriter writer(file, mFolder, mPath);
+    writer.addEmptySheet();
     for (const auto &sheet : mSheets) {
         sheet->cells().endWriting();
-        mostXmlBytes += sheet->cells().mostXmlBytes();
-    }
-    WorkbookWriter writer(file, mFolder, mPath, mostXmlBytes);
-    writer.addEmptySheet();
-    for (const auto &sheet : mSheets)
         writer.addSheet(sheet->cells());
+    }
     mSheets.clear(); // which frees the room that the library needs next
     writer.close();
 }

@@ -16,7 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What plain zip files hold. Beyond it they need an extension that not every program reads.
+/// What a sheet in a plain zip file may have. Beyond it an extension is needed, at which not every
+/// program is pleased.
 constexpr qint64 mostPlainZipBytes = 4'000'000'000;
 /// What a sheet has around its rows, with room to spare.
 constexpr qint64 mostBytesAroundRows = 2048;
@@ -28,15 +29,13 @@ int lastError()
 
 } // namespace
 
-WorkbookWriter::WorkbookWriter(const QString &file, const QString &temporaries, QString workbook,
-                               qint64 mostXmlBytes)
+WorkbookWriter::WorkbookWriter(const QString &file, const QString &temporaries, QString workbook)
     : mFile(QFile::encodeName(file)), mTemporaries(QFile::encodeName(temporaries)),
       mWorkbook(std::move(workbook))
 {
     lxw_workbook_options options{};
     options.constant_memory = LXW_TRUE;
     options.tmpdir = mTemporaries.data();
-    options.use_zip64 = mostXmlBytes > mostPlainZipBytes;
     mBook = workbook_new_opt(mFile.constData(), &options);
     if (!mBook)
         throw RuntimeError(OutOfMemory);
@@ -112,6 +111,7 @@ void WorkbookWriter::makeSureOfRoom()
 void WorkbookWriter::close()
 {
     makeSureOfRoom();
+    mBook->options.use_zip64 = mLargestSheet > mostPlainZipBytes; // read when the book is closed
     errno = 0;
     const lxw_error error =
         workbook_close(std::exchange(mBook, nullptr)); // frees it, come what may

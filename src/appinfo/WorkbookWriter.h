@@ -13,9 +13,7 @@ class WorkbookWriter
 {
 public:
     /// `temporaries` is the folder for temporary files, `workbook` what the errors name.
-    /// `mostXmlBytes` is how large the sheets can become. Fails as errorFromSystem() tells.
-    WorkbookWriter(const QString &file, const QString &temporaries, QString workbook,
-                   qint64 mostXmlBytes);
+    WorkbookWriter(const QString &file, const QString &temporaries, QString workbook);
     ~WorkbookWriter();
     Q_DISABLE_COPY_MOVE(WorkbookWriter)
 

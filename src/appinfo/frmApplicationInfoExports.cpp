@@ -2,13 +2,12 @@
 #include "appinfo/MemberListExport.h"
 #include "appinfo/SecurityExport.h"
 #include "shell/frmLargeText.h"
+#include "shell/frmLastingHourglass.h"
 #include "shell/SpreadsheetExport.h"
-
-// An export that fails leaves the hourglass set.
 
 void frmApplicationInfo::cmdSendToExcel_Click()
 {
-    setCursor(Qt::WaitCursor);
+    frmLastingHourglass hourglass(this);
     const auto linesOf = [](const LargeTextView *box, const QListView *list) {
         return box->text().isEmpty() ? QStringList() : TabControls::lines(list);
     };
@@ -19,7 +18,7 @@ void frmApplicationInfo::cmdSendToExcel_Click()
             SecurityExport::write(sheet, linesOf(mSecurity.txtTemp, mSecurity.lstTemp),
                                   linesOf(mSecurity.txtTemp2, mSecurity.lstTemp2));
         });
-    unsetCursor();
+    hourglass.done();
 }
 
 void frmApplicationInfo::cmdSendListToExcel_Click()
@@ -29,11 +28,11 @@ void frmApplicationInfo::cmdSendListToExcel_Click()
 
 void frmApplicationInfo::exportList()
 {
-    setCursor(Qt::WaitCursor);
+    frmLastingHourglass hourglass(this);
     SpreadsheetExport::run(mServices, [&](Worksheet &sheet) {
         MemberListExport::write(sheet, mMemberLists.lblMembersInList->text(),
                                 mMemberLists.cboParentMembers->currentText(),
                                 TabControls::lines(mMemberLists.lstMembersInList));
     });
-    unsetCursor();
+    hourglass.done();
 }

@@ -1,7 +1,7 @@
 #include "viewer/frmMetadataViewer.h"
 
 #include "runtime/Required.h"
-#include "viewer/frmViewerHourglass.h"
+#include "shell/frmLastingHourglass.h"
 #include "viewer/TopMemberView.h"
 #include "viewer/ViewerRules.h"
 
@@ -126,7 +126,7 @@ void frmMetadataViewer::filterSwitchClicked(int option)
 
 void frmMetadataViewer::expandAll()
 {
-    frmViewerHourglass hourglass(this);
+    frmLastingHourglass hourglass(this);
     visibleTree()->expandBelow({});
     hourglass.done();
 }

@@ -1,13 +1,13 @@
+#include "shell/frmLastingHourglass.h"
 #include "shell/SpreadsheetExport.h"
 #include "viewer/frmMetadataViewer.h"
 #include "viewer/TreeExport.h"
 
 #include <QButtonGroup>
 
-// An export that fails leaves the hourglass set.
 void frmMetadataViewer::ExportTreeToExcel()
 {
-    setCursor(Qt::WaitCursor);
+    frmLastingHourglass hourglass(this);
     const bool showsAttributes = mControls.showAttributes->checkedId() == ShowAttributes;
     const bool writesAttributes =
         showsAttributes &&
@@ -26,5 +26,5 @@ void frmMetadataViewer::ExportTreeToExcel()
         visibleTree()->expandBelow({});
         tree.writeNodes();
     });
-    unsetCursor();
+    hourglass.done();
 }

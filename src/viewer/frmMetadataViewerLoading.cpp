@@ -1,6 +1,6 @@
 #include "runtime/Required.h"
+#include "shell/frmLastingHourglass.h"
 #include "viewer/frmMetadataViewer.h"
-#include "viewer/frmViewerHourglass.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -27,7 +27,7 @@ void append(QComboBox *combo, const QStringList &entries)
 void frmMetadataViewer::LoadMemberTree()
 {
     showTree(nullptr);
-    frmViewerHourglass hourglass(this);
+    frmLastingHourglass hourglass(this);
     mTotalMembers = 1; // the total shown is one more than the number of occurrences: kept
     const auto tree = std::make_shared<MemberTree>();
     {
@@ -48,7 +48,7 @@ void frmMetadataViewer::LoadFilteredEntities()
 {
     mTotalMembers = 0;
     mMaxLevel = 1;
-    frmViewerHourglass hourglass(this);
+    frmLastingHourglass hourglass(this);
     showTree(nullptr);
     const QList<hfm::MemberId> entities = required(mGlobal.gDimension).EnumAllMembers();
     const auto list = std::make_shared<MemberTree>();

@@ -1,22 +1,11 @@
 #include "hfm/offline/ApplicationChoices.h"
 
+#include "hfm/offline/ApplicationSummary.h"
 #include "hfm/offline/ReadingError.h"
-
-#include <QFileInfo>
 
 namespace hfm::offline {
 
 namespace {
-
-QString fileNames(const ApplicationFiles &files)
-{
-    QList<QString> names;
-    for (const QString &path : {files.metadata, files.profile, files.security, files.memberLists}) {
-        if (!path.isEmpty())
-            names.append(QFileInfo(path).fileName());
-    }
-    return names.join(QStringLiteral(", "));
-}
 
 QList<QString> warningLines(const Warnings &warnings)
 {
@@ -30,19 +19,6 @@ QList<QString> warningLines(const Warnings &warnings)
 }
 
 } // namespace
-
-QString summaryOf(const Application &application)
-{
-    QList<QString> lines = {QStringLiteral("Files: %1").arg(fileNames(application.files))};
-    for (const StoredDimension &dimension : application.dimensions)
-        lines.append(
-            QStringLiteral("%1: %2 members")
-                .arg(dimensionName(dimension.kind), QString::number(dimension.labels.count())));
-    lines.append(
-        QStringLiteral("Languages: %1").arg(application.languages.join(QStringLiteral(", "))));
-    lines.append(QStringLiteral("Warnings: %1").arg(application.warnings.count()));
-    return lines.join(QLatin1Char('\n'));
-}
 
 ApplicationChoices::ApplicationChoices(const QString &clusterFolder, const Clock &clock)
     : mApplications(findApplications(clusterFolder)), mClock(clock)
@@ -61,7 +37,7 @@ ApplicationPreview ApplicationChoices::read(qsizetype position) const
 {
     try {
         auto application = readApplication(mApplications[position], mClock.now().date().year());
-        QString summary = summaryOf(*application);
+        QString summary = summaryOf(*application, application->warnings.count());
         QList<QString> warnings = warningLines(application->warnings);
         return {std::move(application), std::move(summary), std::move(warnings)};
     } catch (const RuntimeError &error) {

@@ -9,8 +9,7 @@ namespace hfm::offline {
 struct ApplicationPreview
 {
     std::shared_ptr<const Application> application; ///< null where it cannot be read
-    /// Its files, dimensions with their numbers of members, languages and number of warnings; why
-    /// it cannot be read where it cannot. Lines end with LF.
+    /// What summaryOf() tells of it; why it cannot be read where it cannot.
     QString summary;
     /// "FILE, line LINE: TEXT", in the order of files and lines. Those that were not kept are
     /// counted in one line more.
@@ -34,8 +33,5 @@ private:
     QList<ApplicationFiles> mApplications;
     const Clock &mClock;
 };
-
-/// The text that ApplicationPreview::summary gives of an application that was read.
-QString summaryOf(const Application &application);
 
 } // namespace hfm::offline

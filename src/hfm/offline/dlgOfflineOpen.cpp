@@ -1,5 +1,6 @@
 #include "hfm/offline/dlgOfflineOpen.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QDialogButtonBox>
@@ -9,7 +10,7 @@
 #include <QListView>
 #include <QPushButton>
 #include <QScopeGuard>
-#include <QShortcut>
+#include <QScrollArea>
 #include <QStringListModel>
 #include <QVBoxLayout>
 
@@ -29,6 +30,17 @@ void copySelection(const QListView &list)
         lines.append(row.data().toString());
     if (!lines.isEmpty())
         QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+}
+
+/// The summary of an application with many lists may be longer than the dialog is high.
+QScrollArea *scrolled(QLabel *label)
+{
+    auto *area = new QScrollArea(label->parentWidget());
+    area->setWidget(label);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    return area;
 }
 
 } // namespace
@@ -94,7 +106,7 @@ void dlgOfflineOpen::arrangeControls()
     auto *grid = new QGridLayout;
     grid->addWidget(applicationsLabel, 0, 0);
     grid->addWidget(mApplications, 1, 0);
-    grid->addWidget(mSummary, 1, 1);
+    grid->addWidget(scrolled(mSummary), 1, 1);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 2);
     auto *layout = new QVBoxLayout(this);
@@ -108,25 +120,48 @@ void dlgOfflineOpen::arrangeControls()
 
 void dlgOfflineOpen::connectControls(ErrorTrap &trap)
 {
-    trap.connect(mApplications->selectionModel(), &QItemSelectionModel::currentChanged, this,
-                 [this] { showCurrent(); });
+    trap.connect(mApplications->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                 [this] { showSelected(); });
     trap.connect(mApplications, &QListView::doubleClicked, this, [this] { confirm(); });
     trap.connect(mOk, &QPushButton::clicked, this, [this] { confirm(); });
     trap.connect(mCancel, &QPushButton::clicked, this, [this] { reject(); });
-    auto *copy = new QShortcut(QKeySequence::Copy, mWarnings, nullptr, nullptr, Qt::WidgetShortcut);
-    trap.connect(copy, &QShortcut::activated, this, [this] { copySelection(*mWarnings); });
+    addMenuOfWarnings(trap);
 }
 
-void dlgOfflineOpen::showCurrent()
+void dlgOfflineOpen::addMenuOfWarnings(ErrorTrap &trap)
 {
-    const QModelIndex current = mApplications->currentIndex();
-    if (!current.isValid())
+    auto *copy = new QAction(tr("&Copy"), mWarnings);
+    copy->setObjectName(QStringLiteral("mnuCopyWarnings"));
+    copy->setShortcut(QKeySequence::Copy);
+    auto *selectAll = new QAction(tr("Select &All"), mWarnings);
+    selectAll->setObjectName(QStringLiteral("mnuSelectAllWarnings"));
+    selectAll->setShortcut(QKeySequence::SelectAll);
+    for (QAction *action : {copy, selectAll}) {
+        action->setShortcutContext(Qt::WidgetShortcut);
+        mWarnings->addAction(action);
+    }
+    mWarnings->setContextMenuPolicy(Qt::ActionsContextMenu);
+    trap.connect(copy, &QAction::triggered, this, [this] { copySelection(*mWarnings); });
+    trap.connect(selectAll, &QAction::triggered, this, [this] { mWarnings->selectAll(); });
+}
+
+/// A row can be deselected, with Ctrl held; then there is nothing to open.
+void dlgOfflineOpen::showSelected()
+{
+    mApplication.reset(); // two large applications need not be in memory at a time
+    const QModelIndexList selected = mApplications->selectionModel()->selectedRows();
+    if (selected.isEmpty()) {
+        tell({nullptr, tr("No application is selected."), {}});
         return;
+    }
     QApplication::setOverrideCursor(Qt::WaitCursor);
     const auto pointerBack = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
-    mApplication.reset(); // two large applications need not be in memory at a time
-    ApplicationPreview preview = mChoices.read(current.row());
-    mApplication = std::move(preview.application);
+    tell(mChoices.read(selected.first().row()));
+}
+
+void dlgOfflineOpen::tell(const ApplicationPreview &preview)
+{
+    mApplication = preview.application;
     mSummary->setText(preview.summary);
     mWarningLines->setStringList(preview.warnings);
     mOk->setEnabled(mApplication != nullptr);

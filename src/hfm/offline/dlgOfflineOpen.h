@@ -29,7 +29,9 @@ private:
     void makeControls(const QString &clusterFolder);
     void arrangeControls();
     void connectControls(ErrorTrap &trap);
-    void showCurrent();
+    void addMenuOfWarnings(ErrorTrap &trap);
+    void showSelected();
+    void tell(const ApplicationPreview &preview);
     void confirm();
 
     ApplicationChoices mChoices;

@@ -1,7 +1,9 @@
 #include "hfm/offline/dlgOfflineOpen.h"
 #include "support/FakeServices.h"
 
+#include <QAction>
 #include <QClipboard>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
@@ -31,7 +33,7 @@ private Q_SLOTS:
         QCOMPARE(rows(*mApplications),
                  QStringList({QStringLiteral("alpha"), QStringLiteral("Beta")}));
         QCOMPARE(mApplications->currentIndex().row(), 0);
-        QVERIFY(mSummary->text().startsWith(QLatin1String("Files: alpha.app\n")));
+        QVERIFY(mSummary->text().startsWith(QLatin1String("Files:\n  alpha.app, 26 bytes, ")));
         QVERIFY(mSummary->text().contains(QLatin1String("\nEntity: 1 members\n")));
         QVERIFY(mOk->isEnabled());
         QVERIFY(mDialog->application() != nullptr);
@@ -99,6 +101,94 @@ private Q_SLOTS:
         QVERIFY(rows(*mApplications).isEmpty());
     }
 
+    void escapeGivesUp()
+    {
+        open();
+        QTest::keyClick(mApplications, Qt::Key_Escape);
+        QCOMPARE(mDialog->result(), int(QDialog::Rejected));
+        QVERIFY(!mDialog->isVisible());
+    }
+
+    void withoutASelectionThereIsNothingToOpen()
+    {
+        open();
+        clickFirstRow(Qt::ControlModifier);
+        QVERIFY(!mApplications->selectionModel()->hasSelection());
+        QVERIFY(!mOk->isEnabled());
+        QCOMPARE(mDialog->application(), nullptr);
+        QCOMPARE(mSummary->text(), QStringLiteral("No application is selected."));
+        QVERIFY(rows(*mWarnings).isEmpty());
+        QTest::keyClick(mApplications, Qt::Key_Return);
+        QVERIFY(mDialog->isVisible());
+
+        clickFirstRow(Qt::NoModifier);
+        QVERIFY(mOk->isEnabled());
+        QCOMPARE(mDialog->application()->files.name, QStringLiteral("alpha"));
+    }
+
+    void theSummaryTellsEverythingThatIsInTheFiles()
+    {
+        write("alpha.sec", "!USERS_AND_GROUPS\njane@CORP\nReaders\n!SECURITY_CLASSES\n[Default]\n"
+                           "!ROLE_ACCESS\nLoad System;jane@CORP\n");
+        write("alpha.profile", "!LANGUAGES\nEnglish\nFrench\n");
+        write("alpha.xml", "<x/>");
+        const QDateTime changed(QDate(2012, 3, 4), QTime(5, 6));
+        for (const char *name : {"alpha.app", "alpha.sec", "alpha.profile", "alpha.xml"})
+            setChanged(name, changed);
+        open();
+        const QStringList lines = mSummary->text().split(QLatin1Char('\n'));
+        QCOMPARE(lines.mid(0, 5),
+                 QStringList({QStringLiteral("Files:"),
+                              QStringLiteral("  alpha.app, 26 bytes, 2012-03-04 05:06"),
+                              QStringLiteral("  alpha.profile, 26 bytes, 2012-03-04 05:06"),
+                              QStringLiteral("  alpha.sec, 99 bytes, 2012-03-04 05:06"),
+                              QStringLiteral("  alpha.xml, 4 bytes, 2012-03-04 05:06, not read")}));
+        for (const char *line :
+             {"Entity: 1 members", "Custom4: 1 members", "Languages: English, French",
+              "Users and groups: 2 (CORP\\jane, Readers)", "Roles: 1 (Load System)",
+              "Security classes: 1 ([Default])", "Warnings: 2"})
+            QVERIFY2(lines.contains(QLatin1StringView(line)), line);
+        QCOMPARE(rows(*mWarnings).first(),
+                 QStringLiteral("alpha.app: alpha.xml stands beside this file; it is not read."));
+    }
+
+    void ofManyNamesTheFirstAreTold()
+    {
+        QByteArray security = "!SECURITY_CLASSES\n";
+        for (int i = 1; i <= 21; ++i)
+            security += 'C' + QByteArray::number(i) + '\n';
+        write("alpha.sec", security.constData());
+        open();
+        QVERIFY(mSummary->text().contains(QLatin1StringView("\nSecurity classes: 21 (C1, C2, ")));
+        QVERIFY(mSummary->text().contains(QLatin1StringView(", C20, ...)\n")));
+    }
+
+    void theSummaryCanBeCopied()
+    {
+        open();
+        mSummary->setFocus();
+        QTest::keyClick(mSummary, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(mSummary, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), mSummary->text());
+    }
+
+    void warningsHaveAMenuThatCopiesThem()
+    {
+        open();
+        select(1);
+        const QList<QAction *> actions = mWarnings->actions();
+        QCOMPARE(mWarnings->contextMenuPolicy(), Qt::ActionsContextMenu);
+        QCOMPARE(actions.size(), 2);
+        QCOMPARE(actions[0]->text(), QStringLiteral("&Copy"));
+        QCOMPARE(actions[1]->text(), QStringLiteral("Select &All"));
+        QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+        actions[0]->trigger();
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("before"));
+        actions[1]->trigger();
+        actions[0]->trigger();
+        QCOMPARE(QGuiApplication::clipboard()->text(), rows(*mWarnings).join(QLatin1Char('\n')));
+    }
+
     void warningsCanBeCopied()
     {
         open();
@@ -116,6 +206,19 @@ private:
         QFile file(mCluster->filePath(QString::fromLatin1(name)));
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(text);
+    }
+
+    void setChanged(const char *name, const QDateTime &time)
+    {
+        QFile file(mCluster->filePath(QString::fromLatin1(name)));
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
+    }
+
+    void clickFirstRow(Qt::KeyboardModifiers modifiers)
+    {
+        const QRect row = mApplications->visualRect(mApplications->model()->index(0, 0));
+        QTest::mouseClick(mApplications->viewport(), Qt::LeftButton, modifiers, row.center());
     }
 
     void open()

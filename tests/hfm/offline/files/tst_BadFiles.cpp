@@ -215,7 +215,7 @@ private Q_SLOTS:
         const ApplicationChoices choices(cluster.path(), clock);
         QVERIFY(QFile::remove(cluster.path(u"D.app"_s)));
         QCOMPARE(choices.names(), QStringList({u"A"_s, u"B"_s, u"C"_s, u"D"_s}));
-        const QStringList beginnings = {u"A.app: "_s, u"Files: B.app\n"_s, u"C.app, line 4: "_s,
+        const QStringList beginnings = {u"A.app: "_s, u"Files:\n  B.app, "_s, u"C.app, line 4: "_s,
                                         u"D.app: "_s};
         for (int position = 0; position < 4; ++position) {
             const ApplicationPreview preview = choices.read(position);

@@ -8,6 +8,7 @@ from .attributes import (ACCOUNT_COLUMNS, CUSTOM_COLUMNS, ENTITY_COLUMNS, SCENAR
                          account_attributes, custom_attributes, scenario_attributes)
 from .lists import write_currencies, write_methods
 from .meridian_entities import Companies
+from .meridian_security import meridian_security
 from .model import Dimension
 from .outline import Planter, read_outline, read_vocabularies
 from .profile import profile_bytes
@@ -23,7 +24,7 @@ CUSTOM_TOPS = {"m": ("CLO", "[None]", "[None]", "[None]"),
 
 
 def make_meridian(folder):
-    """Writes Meridian.app and Meridian.profile into `folder`."""
+    """Writes Meridian.app, Meridian.profile and Meridian.sec into `folder`."""
     words = read_vocabularies(HERE / "vocabularies.txt") | read_vocabularies(
         HERE / "meridian_group.txt")
     dimensions = make_dimensions(words)
@@ -31,6 +32,7 @@ def make_meridian(folder):
         dimension.check()
     folder.mkdir(parents=True, exist_ok=True)
     (folder / "Meridian.app").write_bytes(metadata(words, dimensions))
+    (folder / "Meridian.sec").write_bytes(meridian_security(dimensions))
     (folder / "Meridian.profile").write_bytes(
         profile_bytes(HERE / "meridian_profile.txt", LANGUAGES, ";", "utf-16-le", mark=True))
 

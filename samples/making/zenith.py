@@ -10,6 +10,7 @@ from .attributes import (ACCOUNT_COLUMNS, CUSTOM_COLUMNS, ENTITY_COLUMNS, LONGER
 from .lists import write_currencies, write_methods
 from .model import Dimension
 from .outline import Planter, read_outline, read_vocabularies
+from .security import Security, classes_of
 from .xml_file import XmlFile
 
 HERE = Path(__file__).parent
@@ -43,8 +44,8 @@ def entity_attributes(kind, options, is_parent):
 
 
 def make_zenith(folder, twin_folder):
-    """Writes Zenith.app into `folder` and the same as Zenith.xml into `twin_folder`; without a
-    profile, so years and periods are the usual."""
+    """Writes Zenith.app into `folder` and the same as Zenith.xml into `twin_folder`, each with
+    Zenith.sec; without a profile, so years and periods are the usual."""
     words = {name: [without_french(row) for row in rows] for name, rows in (
         read_vocabularies(HERE / "vocabularies.txt")
         | read_vocabularies(HERE / "meridian_group.txt")
@@ -59,6 +60,7 @@ def make_zenith(folder, twin_folder):
         path.parent.mkdir(parents=True, exist_ok=True)
         write_metadata(file, words, dimensions)
         path.write_bytes(file.bytes())
+        path.with_suffix(".sec").write_bytes(security(dimensions))
 
 
 def without_french(row):
@@ -75,6 +77,20 @@ def make_dimensions(words):
         Planter(dimension, LANGUAGES, words, attributes).plant(
             read_outline(HERE / f"zenith_{name.lower()}.txt"))
     return dimensions
+
+
+def security(dimensions):
+    """One department for each class, besides those that see everything."""
+    security_ = Security(classes_of(dimensions))
+    security_.add("admin@Native Directory", ["Application Administrator", "Load System"],
+                  dict.fromkeys(security_.classes, "All"))
+    security_.add("Rechnungswesen@ZENITH", ["Default", "Consolidate"],
+                  dict.fromkeys(security_.classes, "Promote") | {"Personnel": "Metadata"})
+    for department, name in [("Vertrieb", "Sales"), ("Fertigung Süd", "Production"),
+                             ("Kasse", "Treasury"), ("Büro der Leitung", "Corporate"),
+                             ("Personal", "Personnel")]:
+        security_.add(f"{department}@ZENITH", ["Default"], {"[Default]": "Read", name: "All"})
+    return security_.bytes(",", "cp1252")
 
 
 def write_metadata(file, words, dimensions):

@@ -7,8 +7,9 @@ import unittest
 from pathlib import Path
 
 SAMPLES = Path(__file__).resolve().parents[2] / "samples"
-MADE = ["Alderbrook-XML/Zenith.xml", "Alderbrook/Meridian/Meridian.app",
-        "Alderbrook/Meridian/Meridian.profile", "Alderbrook/Zenith.app"]
+MADE = ["Alderbrook-XML/Zenith.sec", "Alderbrook-XML/Zenith.xml",
+        "Alderbrook/Meridian/Meridian.app", "Alderbrook/Meridian/Meridian.profile",
+        "Alderbrook/Meridian/Meridian.sec", "Alderbrook/Zenith.app", "Alderbrook/Zenith.sec"]
 
 
 class MakeSamples(unittest.TestCase):

@@ -116,6 +116,44 @@ private Q_SLOTS:
         }
     }
 
+    void eachHasSecurityWithEveryAccess_data() { addApplications(); }
+    void eachHasSecurityWithEveryAccess()
+    {
+        QFETCH(QString, name);
+        hfm::offline::OfflineSession session(SampleCluster::read(name), QString());
+        const auto security = session.GetSecurity();
+        const hfm::SecurityClasses classes = security->EnumSecurityClasses();
+        QCOMPARE(classes.names.first(), QStringLiteral("[Default]"));
+        QSet<qint32> codes;
+        QStringList users;
+        for (const hfm::ClassId id : classes.ids) {
+            const hfm::AccessList access = security->EnumClassAccess(id);
+            users = access.names;
+            codes.unite(QSet<qint32>(access.codes.begin(), access.codes.end()));
+        }
+        QCOMPARE(codes, QSet<qint32>({0, 1, 2, 3, 4}));
+        QVERIFY(users.contains(QStringLiteral("Native Directory\\admin")));
+        const hfm::FlaggedNames roles =
+            security->EnumUserRoles(security->GetUserId(QStringLiteral("Native Directory\\admin")));
+        QVERIFY(roles.names.contains(QStringLiteral("Application Administrator")));
+        QVERIFY(roles.flags.contains(QStringLiteral("True")));
+        QVERIFY(roles.flags.contains(QStringLiteral("False")));
+    }
+
+    void namesOfUsersMayLackADirectoryHoldAnAtOrAccents()
+    {
+        const auto users = [](const char *name) {
+            hfm::offline::OfflineSession session(SampleCluster::read(QString::fromLatin1(name)),
+                                                 QString());
+            return session.GetSecurity()->EnumClassAccess(0).names;
+        };
+        QVERIFY(users("Comma").contains(QStringLiteral("Board")));
+        QVERIFY(
+            users("Meridian")
+                .contains(QStringLiteral("Native Directory\\interface@erp.alderbrook.example")));
+        QVERIFY(users("Zenith").contains(QStringLiteral("ZENITH\\Büro der Leitung")));
+    }
+
     void commaIsTakenInAtAGlance()
     {
         const auto metadata = SampleCluster::metadata(QStringLiteral("Comma"));

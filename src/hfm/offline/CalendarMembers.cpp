@@ -37,10 +37,9 @@ void addViews(MemberAdder &views)
 void addCalendar(ApplicationDraft &draft, int currentYear)
 {
     const auto addTo = [&](DimensionKind kind, auto add) {
-        DimensionDraft &dimension = draft.dimension(kind);
-        if (dimension.count() > 0)
+        if (draft.dimension(kind).count() > 0)
             return;
-        MemberAdder adder(dimension);
+        MemberAdder adder(draft, kind);
         add(adder);
     };
     addTo(DimensionKind::Year, [&](MemberAdder &years) { addYears(years, currentYear); });

@@ -2,10 +2,11 @@
 
 namespace hfm::offline {
 
-MemberAdder::MemberAdder(DimensionDraft &dimension)
-    : mDimension(dimension), mPlaced(size_t(dimension.count()))
+MemberAdder::MemberAdder(ApplicationDraft &draft, DimensionKind dimension)
+    : mWarnings(draft.warnings), mDimension(draft.dimension(dimension)), mCircles(mDimension),
+      mPlaced(size_t(mDimension.count()))
 {
-    for (const Edge &edge : dimension.edges())
+    for (const Edge &edge : mDimension.edges())
         mPlaced[size_t(edge.child)] = true;
 }
 
@@ -41,9 +42,22 @@ MemberId MemberAdder::place(MemberId id, MemberId parent, bool placeThoseOfFiles
     const bool ours = mDimension.origin(id) == Origin::Client;
     if (!mPlaced[size_t(id)] && (ours || placeThoseOfFiles)) {
         mPlaced[size_t(id)] = true;
-        mDimension.addEdge({parent, id}, {});
+        // A member of the client's own has nothing below it yet.
+        const bool closesCircle =
+            !ours && parent != rootMember && mCircles.mayStandAbove(id, parent);
+        if (closesCircle)
+            warnOfCircle(id, parent);
+        mDimension.addEdge({closesCircle ? rootMember : parent, id}, {});
     }
     return id;
+}
+
+void MemberAdder::warnOfCircle(MemberId id, MemberId parent)
+{
+    mWarnings.add(mDimension.place(id), [&] {
+        return QStringLiteral("%1 is put at the top level; under %2 it would close a circle.")
+            .arg(quoted(mDimension.labels().at(id)), quoted(mDimension.labels().at(parent)));
+    });
 }
 
 } // namespace hfm::offline

@@ -99,7 +99,7 @@ MemberId systemAccount(QByteArrayView name, DimensionDraft &accounts, MemberAdde
 GivenLists addValues(ApplicationDraft &draft, const ListedNames &currencies)
 {
     GivenLists lists;
-    MemberAdder adder(draft.dimension(DimensionKind::Value));
+    MemberAdder adder(draft, DimensionKind::Value);
     std::array<MemberId, std::size(valueMembers)> ids = {};
     for (size_t i = 0; i < ids.size(); ++i) {
         const ValueMember &value = valueMembers[i];
@@ -117,7 +117,7 @@ GivenLists addValues(ApplicationDraft &draft, const ListedNames &currencies)
 GivenLists addIntercompany(ApplicationDraft &draft, SharedMembers &partners)
 {
     DimensionDraft &icp = draft.dimension(DimensionKind::ICP);
-    MemberAdder adder(icp);
+    MemberAdder adder(draft, DimensionKind::ICP);
     const MemberId top = adder.add(QByteArrayView("[ICP Top]"), rootMember);
     const MemberId none = adder.add(QByteArrayView("[ICP None]"), top);
     const MemberId parent = adder.add(QByteArrayView("[ICP Entities]"), top);
@@ -148,7 +148,7 @@ GivenLists addIntercompany(ApplicationDraft &draft, SharedMembers &partners)
 GivenLists addSystemAccounts(ApplicationDraft &draft)
 {
     DimensionDraft &accounts = draft.dimension(DimensionKind::Account);
-    MemberAdder adder(accounts);
+    MemberAdder adder(draft, DimensionKind::Account);
     QList<MemberId> ids;
     for (const QByteArrayView name : systemAccounts)
         ids.append(systemAccount(name, accounts, adder));
@@ -158,7 +158,7 @@ GivenLists addSystemAccounts(ApplicationDraft &draft)
 GivenLists addToCustom(ApplicationDraft &draft, DimensionKind custom, const ListedNames &currencies)
 {
     GivenLists lists;
-    MemberAdder adder(draft.dimension(custom));
+    MemberAdder adder(draft, custom);
     const auto addAll = [&](const ListedNames &listed, SystemList list) {
         for (qint32 i = 0; i < listed.names.count(); ++i)
             lists[list].append(

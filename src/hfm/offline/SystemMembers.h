@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hfm/offline/ApplicationDraft.h"
+#include "hfm/offline/CircleCheck.h"
 #include "hfm/offline/SharedMembers.h"
 #include "hfm/offline/SystemLists.h"
 
@@ -27,10 +28,11 @@ class MemberAdder
 {
 public:
     /// What the hierarchy sections say so far counts as what the files say.
-    explicit MemberAdder(DimensionDraft &dimension);
+    MemberAdder(ApplicationDraft &draft, DimensionKind dimension);
 
     /// The member of that label under `parent`. One that the files have is left where they put it;
-    /// it gets a node there only if it has none and `placeThoseOfFiles`.
+    /// it gets a node there only if it has none and `placeThoseOfFiles`, and where that would close
+    /// a circle one at the top level.
     MemberId add(QByteArrayView label, MemberId parent, bool placeThoseOfFiles = true);
     MemberId add(TextRef label, MemberId parent, bool placeThoseOfFiles = true);
     /// The same, with the descriptions of a member that is not the files'.
@@ -41,8 +43,11 @@ public:
 
 private:
     MemberId place(MemberId id, MemberId parent, bool placeThoseOfFiles);
+    void warnOfCircle(MemberId id, MemberId parent);
 
+    Warnings &mWarnings;
     DimensionDraft &mDimension;
+    CircleCheck mCircles;
     std::vector<bool> mPlaced; ///< by member: whether it has a parent
 };
 

@@ -105,6 +105,55 @@ private Q_SLOTS:
                  QStringList({u"[ICP Top]"_s, u"[ICP None]"_s, u"[ICP Entities]"_s}));
     }
 
+    void whatTheFileHasIsNotPlacedWhereItWouldCloseACircle_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<int>("line");
+        QTest::addColumn<QStringList>("labels");
+        QTest::addColumn<QString>("tree");
+        QTest::newRow("partners' parent")
+            << QByteArray("!MEMBERS=ICP\n[ICP Top]\n[ICP None]\n[ICP Entities]\n"
+                          "!HIERARCHIES=ICP\n[ICP Entities];[ICP Top]\n")
+            << 4 << QStringList({u"[ICP Entities]"_s, u"[ICP Top]"_s})
+            << u"[ICP Entities]\n  [ICP Top]\n    [ICP None]\n  P\n"_s;
+        QTest::newRow("partner, further up")
+            << QByteArray("!MEMBERS=ICP\nP\nQ\n[ICP Entities]\n"
+                          "!HIERARCHIES=ICP\nP;Q\nQ;[ICP Entities]\n")
+            << 2 << QStringList({u"P"_s, u"[ICP Entities]"_s})
+            << u"[ICP Top]\n  [ICP None]\nP\n  Q\n    [ICP Entities]\n"_s;
+        QTest::newRow("currency") << QByteArray("!MEMBERS=Value\nEUR\nEUR Total\n"
+                                                "!HIERARCHIES=Value\nEUR;EUR Total\n")
+                                  << 2 << QStringList({u"EUR"_s, u"EUR Total"_s})
+                                  << valueTree + u"EUR\n  EUR Total\n    EUR Adjs\n"_s;
+    }
+
+    void whatTheFileHasIsNotPlacedWhereItWouldCloseACircle()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(int, line);
+        QFETCH(QStringList, labels);
+        QFETCH(QString, tree);
+        const Reading reading =
+            readText(text + "!CURRENCIES\nEUR;0\n!MEMBERS=Entity\nP;;;Y;DefaultParent=#root\n"
+                            "!HIERARCHIES=Entity\n;P\n");
+        QVERIFY(reading.warnsOnlyOf(line, labels));
+        const auto dimension = text.startsWith("!MEMBERS=Value")
+                                   ? reading.value()
+                                   : reading.metadata()->GetICPDimension();
+        QCOMPARE(treeOf(*dimension), tree);
+    }
+
+    void whatTheFileHasWithMembersBelowItIsPlacedWithThem()
+    {
+        const Reading reading =
+            readText("!MEMBERS=ICP\nP\nQ\n!HIERARCHIES=ICP\nP;Q\n"
+                     "!MEMBERS=Entity\nP;;;Y;DefaultParent=#root\nQ;;;Y;DefaultParent=#root\n"
+                     "!HIERARCHIES=Entity\n;P\n;Q\n");
+        QCOMPARE(reading.warnings(), QStringList());
+        QCOMPARE(treeOf(*reading.metadata()->GetICPDimension()),
+                 u"[ICP Top]\n  [ICP None]\n  [ICP Entities]\n    P\n      Q\n"_s);
+    }
+
     void systemAccountsAreAddedAfterTheFilesOwnTopMembers()
     {
         const Reading reading =

@@ -75,6 +75,24 @@ private Q_SLOTS:
         QCOMPARE(view->GetAccountTopCustom1(0), reading.custom1()->GetMemberId(u"M"_s));
     }
 
+    void currenciesThatMightCloseACircleUnderALongChain()
+    {
+        constexpr int many = 20000;
+        QByteArray values = "!HIERARCHIES=Value\n";
+        QByteArray currencies = "!CURRENCIES\n";
+        for (int i = 0; i < many; ++i) {
+            const QByteArray number = QByteArray::number(i);
+            values += "V" + number + ";V" + QByteArray::number(i + 1) + "\nC" + number + ";D" +
+                      number + "\nV20000;C" + number + " Total\n";
+            currencies += "C" + number + '\n';
+        }
+        const Reading reading = readText(values + currencies);
+        const auto value = reading.value();
+        QCOMPARE(value->GetChildCount(value->GetMemberId(u"C0 Total"_s)), 2);
+        for (int i = 0; i < many; i += 1000)
+            QVERIFY(value->GetMemberId(u"C%1 Adjs"_s.arg(i)) >= 0);
+    }
+
     void currenciesAndClassesAndTopMembers()
     {
         constexpr int many = 50000;

@@ -4,6 +4,16 @@
 
 namespace hfm::offline {
 
+bool Warnings::countAndKeep(const void *kind, SourceFile file)
+{
+    ++mCount;
+    qsizetype &ofKind = mKeptOfKinds[size_t(file)][kind];
+    if (mEntries.size() >= kept && ofKind >= keptOfAKind)
+        return false;
+    ++ofKind;
+    return true;
+}
+
 QList<Warning> Warnings::list() const
 {
     QList<Entry> sorted = mEntries;

@@ -1,3 +1,4 @@
+#include "hfm/offline/ApplicationChoices.h"
 #include "Reading.h"
 
 #include <QTest>
@@ -221,6 +222,45 @@ private Q_SLOTS:
         QCOMPARE(reading.application->warnings.count(), qint64(5000));
         QCOMPARE(reading.warnings().size(), 1000);
         QCOMPARE(reading.entity()->EnumAllMembers().size(), 5000);
+    }
+
+    void someWarningsOfEachKindAndFileAreKeptHoweverManyStandBefore()
+    {
+        QByteArray text = "!HIERARCHIES=Entity\n";
+        for (int i = 0; i < 5000; ++i)
+            text += "A;\n";
+        text += ";Stray\n!MEMBERS=Account\n";
+        for (int i = 0; i < 100; ++i)
+            text += "B" + QByteArray::number(i) + ";ODD;DefaultParent=#root\n";
+        const Reading reading =
+            readTexts({text, "!HIERARCHIES=Year\n2010;\n", "!SECURITY_CLASSES\nSC\nSC\n"});
+        const QStringList kept = reading.warnings();
+        // The last hundred have no place in their hierarchy either.
+        QCOMPARE(reading.application->warnings.count(), qint64(5000 + 1 + 100 + 100 + 1 + 1));
+        QVERIFY(kept.size() < 1100);
+        QVERIFY(reading.warnsOf(5002, {u"Stray"_s}));
+        QVERIFY(reading.warnsOf(5004, {u"B0"_s}));
+        QVERIFY(reading.warnsOf(5004, {u"ODD"_s}));
+        QCOMPARE(kept.filter(u"'ODD'"_s).size(), 20);
+        QCOMPARE(kept.filter(u"Test.profile, line 2: "_s).size(), 1);
+        QCOMPARE(kept.filter(u"Test.sec, line 3: "_s).size(), 1);
+    }
+
+    void theLineBehindTheWarningsSaysHowManyMoreThereAre()
+    {
+        const auto lastLine = [](int count) {
+            QByteArray text = "!HIERARCHIES=Entity\n";
+            for (int i = 0; i < count; ++i)
+                text += ";M" + QByteArray::number(i) + '\n';
+            const ClusterFolder cluster;
+            cluster.write(u"Test.app"_s, text);
+            const hfm::offline::ApplicationPreview preview =
+                hfm::offline::ApplicationChoices(cluster.path(), SystemClock()).read(0);
+            return u"%1: %2"_s.arg(preview.warnings.size()).arg(preview.warnings.last());
+        };
+        QCOMPARE(lastLine(5000), u"1001: ... and 4000 more"_s);
+        QCOMPARE(lastLine(1001), u"1001: ... and 1 more"_s);
+        QVERIFY(lastLine(1000).startsWith(u"1000: Test.app, line 1001: "_s));
     }
 };
 

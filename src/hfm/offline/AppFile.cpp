@@ -44,6 +44,7 @@ public:
                 readLine(line);
         }
         finishSection();
+        warnOfEnd();
     }
 
 private:
@@ -51,6 +52,8 @@ private:
     {
         finishSection();
         mColumnsMayFollow = true;
+        mLacksRecords = true;
+        mHeader = Place(mSource, mReader.number());
         mSection = mSections.choose(header);
     }
 
@@ -67,10 +70,8 @@ private:
             return;
         }
         mColumnsMayFollow = false;
-        const Place place(mSource, mReader.number());
-        if (mReader.lineIsCut())
-            warnOfCut(line, place);
-        mSection->readRecord(line, place);
+        mLacksRecords = false;
+        mSection->readRecord(line, Place(mSource, mReader.number()));
     }
 
     /// The comment that names the columns stands before the section's records.
@@ -85,16 +86,19 @@ private:
         mColumnsMayFollow = false;
     }
 
-    /// A member's record that the file's end cuts off before its DefaultParent field.
-    void warnOfCut(QByteArrayView line, Place place)
+    /// Nothing tells that a file was cut off at the end of a record. Inside a line or before a
+    /// section's first record it shows.
+    void warnOfEnd()
     {
-        if (!mSections.recordsNameParents() ||
-            line.toByteArray().toLower().contains("defaultparent="))
-            return;
-        mDraft.warnings.add(place, [&] {
-            return QStringLiteral("The file ends within the record of %1; it seems to be cut off.")
-                .arg(quoted(trimmed(line).first(std::min<qsizetype>(80, trimmed(line).size()))));
-        });
+        if (mReader.lineIsCut())
+            mDraft.warnings.add(Place(mSource, mReader.number()), [] {
+                return QStringLiteral("The last line has no end; the file may be cut off.");
+            });
+        else if (mSection && mLacksRecords)
+            mDraft.warnings.add(mHeader, [] {
+                return QStringLiteral("The file ends with a section that has no records; it may "
+                                      "be cut off.");
+            });
     }
 
     LineReader mReader;
@@ -104,6 +108,8 @@ private:
     SectionChoice mSections;
     Section *mSection = nullptr; ///< null while a section is skipped
     bool mColumnsMayFollow = false;
+    Place mHeader; ///< of the section
+    bool mLacksRecords = false;
 };
 
 void readSurveyed(QIODevice &device, SourceFile source, const Survey &survey,

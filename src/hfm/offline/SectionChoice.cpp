@@ -35,7 +35,6 @@ bool isOfProfile(DimensionKind kind)
 
 Section *SectionChoice::choose(const SectionHeader &header)
 {
-    mRecordsNameParents = false;
     for (const KnownSection &known : knownSections) {
         if (!sameWord(header.name, known.name))
             continue;
@@ -50,9 +49,6 @@ Section *SectionChoice::choose(const SectionHeader &header)
             section = newSection(known.kind, *dimension);
             makeRoom(known.kind, *dimension, header);
         }
-        mRecordsNameParents = known.kind == SectionKind::Members &&
-                              *dimension != DimensionKind::Value &&
-                              *dimension != DimensionKind::ICP;
         return section.get();
     }
     return nullptr;

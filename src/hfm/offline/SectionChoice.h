@@ -31,8 +31,6 @@ public:
     /// The section that a header begins or continues; null for one that is skipped. A section that
     /// stands twice is one section.
     Section *choose(const SectionHeader &header);
-    /// Whether the records of the section that was chosen last have a DefaultParent field.
-    bool recordsNameParents() const { return mRecordsNameParents; }
 
 private:
     bool stands(SectionKind kind) const;
@@ -44,7 +42,6 @@ private:
     SourceFile mSource;
     const Survey &mSurvey;
     std::map<std::pair<SectionKind, DimensionKind>, std::unique_ptr<Section>> mSections;
-    bool mRecordsNameParents = false;
 };
 
 } // namespace hfm::offline

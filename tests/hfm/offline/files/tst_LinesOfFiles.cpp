@@ -42,7 +42,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, end);
         for (const QByteArray &last : {end, QByteArray()}) {
             const Reading reading = readText(lines.join(end) + last);
-            QCOMPARE(reading.warnings(), QStringList());
+            QCOMPARE(reading.warnings().size(), last.isEmpty() ? 1 : 0);
             QCOMPARE(treeOf(*reading.entity()), u"A\n  B\n"_s);
             QCOMPARE(reading.entity()->GetMemberDescription(1, 0), u"The B"_s);
         }

@@ -27,6 +27,22 @@ QByteArray encoded(QStringConverter::Encoding encoding)
     return QStringEncoder(encoding, QStringConverter::Flag::WriteBom)(application);
 }
 
+/// What a file that ends like this text is warned of: no more than one thing.
+QStringList warningsOfCut(QString text)
+{
+    text.replace(u"\r\n"_s, u"\n"_s).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    QStringList lines = text.split(QLatin1Char('\n'));
+    if (!lines.last().isEmpty())
+        return {u"%1: The last line has no end; the file may be cut off."_s.arg(lines.size())};
+    lines.removeLast();
+    while (lines.last().startsWith(QLatin1Char('\'')))
+        lines.removeLast();
+    if (!lines.last().startsWith(QLatin1Char('!')))
+        return {};
+    return {u"%1: The file ends with a section that has no records; it may be cut off."_s.arg(
+        lines.size())};
+}
+
 /// Asks for everything that an extract asks for.
 void askForEverything(const Reading &reading)
 {
@@ -59,16 +75,24 @@ private Q_SLOTS:
     void truncatedMetadataOpensOrIsRefused_data()
     {
         QTest::addColumn<QByteArray>("whole");
-        QTest::newRow("UTF-8") << application.toUtf8();
-        QTest::newRow("UTF-16 little endian with a mark") << encoded(QStringConverter::Utf16LE);
-        QTest::newRow("UTF-16 big endian") << encoded(QStringConverter::Utf16BE).sliced(2);
-        QTest::newRow("lone CR") << QByteArray(application.toUtf8()).replace("\r\n", "\r");
-        QTest::newRow("delimited by #") << QByteArray(application.toUtf8()).replace(';', '#');
+        QTest::addColumn<QStringConverter::Encoding>("encoding");
+        // The end of half a character of UTF-8 is seen when its bytes are taken one by one.
+        const QByteArray utf8 = application.toUtf8();
+        QTest::newRow("UTF-8") << utf8 << QStringConverter::Latin1;
+        QTest::newRow("UTF-16 little endian with a mark")
+            << encoded(QStringConverter::Utf16LE) << QStringConverter::Utf16LE;
+        QTest::newRow("UTF-16 big endian")
+            << encoded(QStringConverter::Utf16BE).sliced(2) << QStringConverter::Utf16BE;
+        QTest::newRow("lone CR") << QByteArray(utf8).replace("\r\n", "\r")
+                                 << QStringConverter::Latin1;
+        QTest::newRow("delimited by #")
+            << QByteArray(utf8).replace(';', '#') << QStringConverter::Latin1;
     }
 
     void truncatedMetadataOpensOrIsRefused()
     {
         QFETCH(QByteArray, whole);
+        QFETCH(QStringConverter::Encoding, encoding);
         const ClusterFolder cluster;
         int opened = 0;
         for (qsizetype size = 0; size <= whole.size(); ++size) {
@@ -76,6 +100,8 @@ private Q_SLOTS:
             const Reading reading = readFiles(cluster.applications().first());
             if (reading.application) {
                 askForEverything(reading);
+                const QString text = QStringDecoder(encoding)(whole.first(size));
+                QCOMPARE(reading.warnings().filter(u"cut off"_s), warningsOfCut(text));
                 ++opened;
                 continue;
             }
@@ -101,13 +127,42 @@ private Q_SLOTS:
         }
     }
 
-    void aMembersRecordThatTheFilesEndCutsOffIsAWarning()
+    void aLastLineWithoutEndIsOneWarning_data()
     {
-        const QByteArray start = "!HIERARCHIES=Entity\n;A\n;Cut\n!MEMBERS=Entity\n"
-                                 "A;;;;;;;;;;;DefaultParent=#root\nCut;EUR;";
-        const Reading reading = readText(start + "\n!CURRENCIES\nEUR;0\n");
-        QCOMPARE(reading.warnings(), QStringList());
-        QVERIFY(readText("!CURRENCIES\nEUR;0\n" + start).warnsOf(8, {}));
+        QTest::addColumn<QByteArray>("end");
+        for (const char *end : {"!CURRENCIES\nEUR;0", "!MEMBERS=Account\nBS;ASSET",
+                                "!HIERARCHIES=Entity\nA;A2", "!UNHEARD\nof", "!MEMBERS=Acc",
+                                "!CUSTOM_ORDER=Mov", "'a remark", "!MEMBERS=Account\n'Label;Acc"})
+            QTest::newRow(end) << QByteArray(end);
+    }
+
+    void aLastLineWithoutEndIsOneWarning()
+    {
+        QFETCH(QByteArray, end);
+        const QByteArray start = "!MEMBERS=Entity\nA;DefaultParent=#root\nA2;DefaultParent=A\n"
+                                 "!HIERARCHIES=Entity\n;A\n";
+        const int line = int(start.count('\n') + end.count('\n') + 1);
+        const QStringList warnings = readText(start + end).warnings().filter(u"cut off"_s);
+        QCOMPARE(
+            warnings,
+            QStringList{u"%1: The last line has no end; the file may be cut off."_s.arg(line)});
+        QVERIFY(readText(start + end + "\n").warnings().filter(u"no end"_s).isEmpty());
+        const QStringList profile = readTexts({start, end}).warnings().filter(u"no end"_s);
+        QCOMPARE(profile.size(), 1);
+        QVERIFY(profile.first().startsWith(u"Test.profile, line "_s));
+    }
+
+    void aLastSectionWithoutRecordsIsAWarning()
+    {
+        const QByteArray start = "!MEMBERS=Entity\nA;DefaultParent=#root\n"
+                                 "!HIERARCHIES=Entity\n;A\n";
+        for (const QByteArray &end :
+             QByteArrayList{"!CURRENCIES\n", "!HIERARCHIES=Entity\n'Parent;Child\n\n"})
+            QVERIFY(readText(start + end).warnsOnlyOf(5, {}));
+        for (const QByteArray &end :
+             QByteArrayList{"!VERSION=11\n", "!CUSTOM_ORDER=Movement\n", "!UNHEARD\n", "\n'\n"})
+            QCOMPARE(readText(start + end).warnings(), QStringList());
+        QCOMPARE(readText("!CURRENCIES\n" + start).warnings(), QStringList());
     }
 };
 

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <map>
 #include <new>
 
 namespace hfm::offline {
@@ -26,32 +27,51 @@ void openFile(QFile &file)
                        number);
 }
 
-/// Reads a file that the application can do without.
-void readOptional(const QString &path, SourceFile source, ApplicationDraft &draft,
-                  void (*read)(QIODevice &, ApplicationDraft &))
+/// The reading of a file broke off inside a record, so that the draft may hold half of it.
+struct BrokenOff
+{
+    SourceFile file;
+    QString reason;
+};
+/// The files that broke off and are left out, and why.
+using LeftOut = std::map<SourceFile, QString>;
+
+/// Reads a file that the application can do without. Fails with BrokenOff alone.
+void readOptional(const QString &path, SourceFile source, const LeftOut &leftOut,
+                  ApplicationDraft &draft, void (*read)(QIODevice &, ApplicationDraft &))
 {
     if (path.isEmpty())
         return;
-    QFile file(path);
     draft.warnings.setFileName(source, QFileInfo(path).fileName());
+    if (const auto found = leftOut.find(source); found != leftOut.end()) {
+        draft.warnings.add(Place(source, 0), [&] { return found->second; });
+        return;
+    }
     try {
+        QFile file(path);
         openFile(file);
         read(file, draft);
     } catch (const ReadingError &error) {
         draft.warnings.add(Place(source, error.line()), [&] { return error.reason(); });
     } catch (const RuntimeError &error) {
-        draft.warnings.add(Place(source, 0), [&] { return error.description(); });
+        throw BrokenOff{source, error.description()};
     } catch (const std::bad_alloc &) {
-        draft.warnings.add(Place(source, 0),
-                           [] { return RuntimeError::usualDescription(OutOfMemory); });
+        throw BrokenOff{source, RuntimeError::usualDescription(OutOfMemory)};
     }
 }
 
 void readMemberListFile(QIODevice &device, ApplicationDraft &draft)
 {
-    const QByteArray content = device.readAll();
-    if (content.size() < device.size())
-        throw ReadingError(draft.warnings.fileName(SourceFile::MemberLists), 0,
+    constexpr qint64 largest = qint64(64) << 20; // scripts have some hundred kilobytes
+    const QString name = draft.warnings.fileName(SourceFile::MemberLists);
+    const qint64 size = device.size();
+    if (size > largest)
+        throw ReadingError(
+            name, 0,
+            QStringLiteral("The file is larger than %1 bytes; it is left out.").arg(largest));
+    const QByteArray content = device.read(size);
+    if (content.size() < size)
+        throw ReadingError(name, 0,
                            QStringLiteral("The file cannot be read: %1").arg(device.errorString()));
     draft.memberListFile = {content, 1};
 }
@@ -67,7 +87,8 @@ void warnOfOtherMetadata(const ApplicationFiles &files, ApplicationDraft &draft)
     });
 }
 
-std::shared_ptr<const Application> readFiles(const ApplicationFiles &files, int currentYear)
+std::shared_ptr<const Application> readFiles(const ApplicationFiles &files, int currentYear,
+                                             const LeftOut &leftOut)
 {
     Warnings warnings;
     warnings.setFileName(SourceFile::Metadata, QFileInfo(files.metadata).fileName());
@@ -79,10 +100,26 @@ std::shared_ptr<const Application> readFiles(const ApplicationFiles &files, int 
     else
         readMetadataFile(metadata, draft);
     warnOfOtherMetadata(files, draft);
-    readOptional(files.profile, SourceFile::Profile, draft, readProfileFile);
-    readOptional(files.security, SourceFile::Security, draft, readSecurityFile);
-    readOptional(files.memberLists, SourceFile::MemberLists, draft, readMemberListFile);
+    const auto readOne = [&](const QString &path, SourceFile source, auto read) {
+        readOptional(path, source, leftOut, draft, read);
+    };
+    readOne(files.profile, SourceFile::Profile, readProfileFile);
+    readOne(files.security, SourceFile::Security, readSecurityFile);
+    readOne(files.memberLists, SourceFile::MemberLists, readMemberListFile);
     return finishApplication(draft, files, currentYear);
+}
+
+/// Reads the files again without each that breaks off, of which there are three at most.
+std::shared_ptr<const Application> readWhatCanBeRead(const ApplicationFiles &files, int currentYear)
+{
+    LeftOut leftOut;
+    while (true) {
+        try {
+            return readFiles(files, currentYear, leftOut);
+        } catch (const BrokenOff &broken) {
+            leftOut.emplace(broken.file, broken.reason);
+        }
+    }
 }
 
 } // namespace
@@ -91,7 +128,7 @@ std::shared_ptr<const Application> readApplication(const ApplicationFiles &files
 {
     const QString name = QFileInfo(files.metadata).fileName();
     try {
-        return readFiles(files, currentYear);
+        return readWhatCanBeRead(files, currentYear);
     } catch (const ReadingError &) {
         throw;
     } catch (const RuntimeError &error) {

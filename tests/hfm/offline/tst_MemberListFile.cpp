@@ -56,6 +56,20 @@ private Q_SLOTS:
         QCOMPARE(file.content, QByteArray());
     }
 
+    void aFileThatIsTooLargeToBeOneIsLeftOutWithAWarning()
+    {
+        constexpr qint64 largest = qint64(64) << 20;
+        QFile file(mCluster->filePath(u"Comma.lst"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.resize(largest + 1));
+        file.close();
+        QCOMPARE(memberListFile().present, qint16(0));
+        const auto warnings = opened()->warnings.list();
+        QCOMPARE(warnings.size(), 1);
+        QCOMPARE(warnings[0].file, u"Comma.lst"_s);
+        QVERIFY(warnings[0].text.contains(QString::number(largest)));
+    }
+
     void theBytesAreThoseOfTheFileToTheLast()
     {
         QByteArray all;

@@ -1,6 +1,7 @@
 #include "hfm/offline/dlgOfflineLogon.h"
 #include "support/FakeServices.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
@@ -8,6 +9,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 using namespace hfm::offline;
 
@@ -86,6 +88,24 @@ private Q_SLOTS:
         QVERIFY(!mOk->isEnabled());
     }
 
+    void theFolderThatIsBrowsedForIsEntered()
+    {
+        QVERIFY(QDir(mCluster.path()).mkpath(QStringLiteral("north")));
+        const QString north = mCluster.filePath(QStringLiteral("north"));
+        browseAndPress(Qt::Key_Return, north);
+        QCOMPARE(mDialog->logon().clusterFolder, north);
+        QVERIFY(mDialog->isVisible());
+    }
+
+    void withoutAFolderBrowsedForTheEntryStays()
+    {
+        browseAndPress(Qt::Key_Escape, mCluster.path());
+        QCOMPARE(mDialog->logon().clusterFolder, mCluster.path());
+        mCombo->setEditText(QStringLiteral("/data/gone"));
+        browseAndPress(Qt::Key_Escape, mCluster.path());
+        QCOMPARE(mDialog->logon().clusterFolder, QStringLiteral("/data/gone"));
+    }
+
     void cancelAndEscapeGiveUp()
     {
         QTest::mouseClick(mCancel, Qt::LeftButton);
@@ -97,6 +117,20 @@ private Q_SLOTS:
     }
 
 private:
+    /// Clicks "Browse..." and, in the dialog that this opens, enters a folder and presses a key.
+    void browseAndPress(Qt::Key key, const QString &folder)
+    {
+        QTimer::singleShot(0, this, [key, folder] {
+            QWidget *browser = QApplication::activeModalWidget();
+            auto *name = browser->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+            name->setText(folder);
+            QTest::keyClick(name, key);
+        });
+        QTest::mouseClick(mDialog->findChild<QPushButton *>(QStringLiteral("cmdBrowseCluster")),
+                          Qt::LeftButton);
+        QCOMPARE(QApplication::activeModalWidget(), nullptr);
+    }
+
     QTemporaryDir mCluster;
     FakeServices mServices;
     std::unique_ptr<dlgOfflineLogon> mDialog;

@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QClipboard>
+#include <QCursor>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -14,6 +15,24 @@
 #include <QTest>
 
 using namespace hfm::offline;
+
+namespace {
+
+/// Notes the pointer that shows while an application is read, which asks for the year.
+class PointerAtTheClock final : public Clock
+{
+public:
+    mutable QList<Qt::CursorShape> shapes;
+
+    QDateTime now() const override
+    {
+        const QCursor *pointer = QGuiApplication::overrideCursor();
+        shapes.append(pointer ? pointer->shape() : Qt::ArrowCursor);
+        return {QDate(2012, 3, 14), QTime(15, 9, 26)};
+    }
+};
+
+} // namespace
 
 class tst_dlgOfflineOpen : public QObject
 {
@@ -65,6 +84,20 @@ private Q_SLOTS:
         select(0);
         QVERIFY(mOk->isEnabled());
         QVERIFY(mDialog->application() != nullptr);
+    }
+
+    void theWaitPointerShowsWhileARowIsRead()
+    {
+        const PointerAtTheClock clock;
+        dlgOfflineOpen dialog(mCluster->path(), clock, mServices.trap);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        QCOMPARE(clock.shapes, QList<Qt::CursorShape>{Qt::WaitCursor});
+        QVERIFY(!QGuiApplication::overrideCursor());
+        QTest::keyClick(dialog.findChild<QListView *>(QStringLiteral("lstApplications")),
+                        Qt::Key_Down);
+        QCOMPARE(clock.shapes, QList<Qt::CursorShape>({Qt::WaitCursor, Qt::WaitCursor}));
+        QVERIFY(!QGuiApplication::overrideCursor());
     }
 
     void enterAndDoubleClickOpenTheSelectedApplication()

@@ -70,6 +70,8 @@ private Q_SLOTS:
     void aZeroByteIsNoText()
     {
         compareRefusal(readText(QByteArray("!MEMBERS=Entity\nA\nB\0C\nD\n", 24)), 3);
+        compareRefusal(readText(QByteArray("!MEMBERS=Entity\rA\rB\0C\rD\r", 24)), 3);
+        compareRefusal(readText(QByteArray("!MEMBERS=Entity\r\nA\r\nB\0C\r\n", 25)), 3);
         compareRefusal(readText(entities + QByteArray(3 * mebibyte, '\n') + '\0'),
                        3 * mebibyte + 5);
     }

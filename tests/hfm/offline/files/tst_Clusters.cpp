@@ -182,6 +182,27 @@ private Q_SLOTS:
         QCOMPARE(opened.applicationName, u"Comma"_s);
     }
 
+    void theClusterThatIsTheRootOfAllFoldersIsNamedByIt() { QCOMPARE(clusterName(u"/"_s), u"/"_s); }
+
+    void applicationsAndFoldersMayBeLinks()
+    {
+        const ClusterFolder elsewhere;
+        elsewhere.write(u"Far.app"_s, entities);
+        QVERIFY(QDir(elsewhere.path()).mkpath(u"folder"_s));
+        elsewhere.write(u"folder/Zenith.app"_s, entities);
+        elsewhere.write(u"folder/Zenith.sec"_s, "!SECURITY_CLASSES\nX\n");
+
+        const ClusterFolder cluster;
+        QVERIFY(QFile::link(elsewhere.path(u"Far.app"_s), cluster.path(u"Comma.app"_s)));
+        QVERIFY(QFile::link(elsewhere.path(u"folder"_s), cluster.path(u"linked"_s)));
+        QVERIFY(QFile::link(elsewhere.path(u"gone.app"_s), cluster.path(u"Gone.app"_s)));
+        const auto found = cluster.applications();
+        QCOMPARE(names(found), QStringList({u"Comma"_s, u"Zenith"_s}));
+        QCOMPARE(found[1].security, cluster.path(u"linked/Zenith.sec"_s));
+        for (const ApplicationFiles &files : found)
+            QCOMPARE(readFiles(files).entity()->EnumAllMemberLabels(), QStringList{u"A"_s});
+    }
+
     void aFolderThatIsNotThereHasNoApplications()
     {
         const ClusterFolder cluster;

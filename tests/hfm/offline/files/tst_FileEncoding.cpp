@@ -182,6 +182,17 @@ private Q_SLOTS:
         QCOMPARE(treeOf(*reading.entity()), tree);
     }
 
+    void utf16IsRecognisedWhereTheFirstCharacterIsNotAscii()
+    {
+        for (const Form form : {Utf16Little, Utf16Big}) {
+            for (const QString &first : {u"é"_s, u"東"_s}) {
+                const Reading reading =
+                    readText(encoded(first + u"\n!HIERARCHIES=Entity\n;Société\n"_s, form));
+                QCOMPARE(treeOf(*reading.entity()), u"Société\n"_s);
+            }
+        }
+    }
+
     void theProfileAndTheSecurityFileHaveEncodingsOfTheirOwn()
     {
         const Reading reading =

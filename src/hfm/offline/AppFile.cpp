@@ -15,12 +15,14 @@ namespace {
 /// another writer than HFM may put elsewhere than first, those of a hierarchy a Parent and a Child.
 bool namesColumns(const QList<QByteArrayView> &names)
 {
-    const auto has = [&](QByteArrayView column) {
-        return std::any_of(names.begin(), names.end(),
-                           [&](QByteArrayView name) { return sameWord(name, column); });
+    const auto find = [&](QByteArrayView column) {
+        return std::find_if(names.begin(), names.end(),
+                            [&](QByteArrayView name) { return sameWord(name, column); });
     };
-    return sameWord(names.first(), "Label") || (has("Parent") && has("Child")) ||
-           (has("Label") && (has("DefaultParent") || has("Descriptions")));
+    const auto label = find("Label");
+    const auto last = std::min(find("DefaultParent"), find("Descriptions"));
+    return label == names.begin() || (label < last && last != names.end()) ||
+           (find("Parent") != names.end() && find("Child") != names.end());
 }
 
 /// Reads one file after its survey: hands each line to the section that it is in.

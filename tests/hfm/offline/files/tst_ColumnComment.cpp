@@ -138,9 +138,10 @@ private Q_SLOTS:
     void aRemarkThatHoldsTheWordsOfColumnsNamesNone_data()
     {
         QTest::addColumn<QByteArray>("remark");
-        for (const char *remark : {"'the Label; written by hand", "'The Label;Descriptions;too",
-                                   "'here; Label; and so on", "'Descriptions; DefaultParent",
-                                   "'Parent; see the manual", "'Child"})
+        for (const char *remark :
+             {"'the Label; written by hand", "'The Label;Descriptions;too",
+              "'here; Label; and so on", "'DefaultParent; Label", "'Descriptions; DefaultParent",
+              "'Parent; see the manual", "'Child"})
             QTest::newRow(remark) << QByteArray(remark);
     }
 

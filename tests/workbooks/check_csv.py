@@ -10,18 +10,18 @@ import sys
 from pathlib import Path
 
 sys.dont_write_bytecode = True
-from check_workbooks import Application, Records, difference, expected_rows  # noqa: E402
+from check_workbooks import difference, expected_rows, sources_of  # noqa: E402
 
 
 def main():
     application_file, folder = sys.argv[1], Path(sys.argv[2])
-    application, records = Application(application_file), Records(application_file)
+    sources = sources_of(application_file)
     sheets = sorted(folder.glob("*-Sheet2.csv"))
     for sheet in sheets:
         with open(sheet, encoding="utf-8", newline="") as file:
             actual = [dict(enumerate(row, 1)) for row in csv.reader(file)]
         name = sheet.stem.removesuffix("-Sheet2")
-        found = difference(actual, expected_rows(application, records, name))
+        found = difference(actual, expected_rows(*sources, name))
         if found:
             print(f"{sheet.name}: {found}")
             return 1

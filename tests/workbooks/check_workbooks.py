@@ -6,9 +6,11 @@ workbooks of a folder, which openpyxl reads. The workbooks' names say what they 
     unwanted DIMENSION                the tree, its attributes shown and not wanted
     labels DIMENSION                  the tree, its attributes hidden
     base list DIMENSION               the members without children
-    class NAME                        who has access to a security class, nobody being known
+    class NAME                        who has what access to a security class
+    role NUMBER, user NUMBER          who holds a role; what a user or group may do
 
-each of the first four also with "below LABEL" behind it: from that top member down.
+the first four also with "below LABEL" behind it: from that top member down. Roles and users are
+numbered from 0 as they appear in the security file.
 
     check_workbooks.py APPLICATION.app FOLDER NUMBER_OF_WORKBOOKS
 """
@@ -19,7 +21,7 @@ from pathlib import Path
 sys.dont_write_bytecode = True
 TESTS = Path(__file__).resolve().parents[1]
 sys.path[:0] = [str(TESTS / "samples"), str(TESTS / "support")]
-from count_app import Application, find_delimiter, read_sections  # noqa: E402
+from count_app import ALLOWED_DELIMITERS, Application, find_delimiter, read_sections  # noqa: E402
 from print_workbook import rows as rows_of_workbook  # noqa: E402
 
 TYPES = {"REVENUE": "Income", "INCOME": "Income", "EXPENSE": "Expense", "ASSET": "Asset",
@@ -27,6 +29,8 @@ TYPES = {"REVENUE": "Income", "INCOME": "Income", "EXPENSE": "Expense", "ASSET":
          "NONFINANCIAL": "Non-Financial", "CURRENCYRATE": "CurrencyRate", "SYSTEM": "System",
          "TEXT": "Text", "GROUPLABEL": "GroupLabel", "BALANCERECURRING": "BalanceRecurring",
          "DYNAMIC": "Dynamic"}
+ACCESS = {"none": "NONE", "metadata": "UNKNOWN", "read": "READONLY", "promote": "READANDPROMOTE",
+          "all": "ALL"}
 INTERCOMPANY = {"Y": "Yes", "N": "No", "R": "Restricted"}
 
 
@@ -73,6 +77,51 @@ class Records:
 
     def of(self, word, label):
         return self._records.get((word, label.casefold()), {})
+
+
+class Security:
+    """Who may do what, as the security file beside the application's file tells it."""
+
+    def __init__(self, path):
+        found = {name: [line.strip() for line in lines if not line.startswith("'")]
+                 for name, _, lines in list(read_sections(path))}
+        access = found["SECURITY_CLASS_ACCESS"]
+        delimiter = next(mark for mark in ";" + ALLOWED_DELIMITERS
+                         if all(line.count(mark) in (2, 3) for line in access))
+
+        def records(lines):
+            return [[field.strip() for field in line.split(delimiter)] for line in lines]
+
+        self.users = [self._listed(identity) for identity in found["USERS_AND_GROUPS"]]
+        self._classes = found["SECURITY_CLASSES"]
+        holders = [(role, self._listed(user)) for role, user in records(found["ROLE_ACCESS"])]
+        self.roles = list(dict.fromkeys(role for role, _ in holders))
+        self._holders = set(holders)
+        self._access = {(name, self._listed(user)): ACCESS[word.lower()]
+                        for name, user, word, *_ in records(access)}
+
+    @staticmethod
+    def _listed(identity):
+        name, at, directory = identity.rpartition("@")
+        return f"{directory}\\{name}" if at else identity
+
+    def of_class(self, name):
+        return [f"User Access to {name}",
+                *(user.rpartition("\\")[2] + "  -  " + self._access.get((name, user), "NONE")
+                  for user in self.users)]
+
+    def of_role(self, role):
+        return [f"User/Group Access to {role}",
+                *(user.rpartition("\\")[2] for user in self.users
+                  if (role, user) in self._holders)]
+
+    def of_user(self, user):
+        first = [f"User/Group {user} Role Access:",
+                 *(role for role in self.roles if (role, user) in self._holders)]
+        second = [f"User/Group {user} Security Class Access:",
+                  *(f"{name} - {self._access[name, user]}" for name in self._classes
+                    if self._access.get((name, user), "NONE") != "NONE")]
+        return first, second
 
 
 def account(label, record):
@@ -172,9 +221,25 @@ def list_rows(tree, word, top):
     return rows + [{}] + [{1: member} for member in members]
 
 
-def expected_rows(application, records, name):
-    if name.startswith("class "):
-        return [{1: "User Access to " + name.removeprefix("class ")}]
+def columns_as_rows(first, second=()):
+    rows = [{1: line} for line in first] + [{} for _ in second[len(first):]]
+    for row, line in zip(rows, second):
+        row[3] = line
+    return rows
+
+
+def security_rows(security, kind, which):
+    if kind == "class":
+        return columns_as_rows(security.of_class(which))
+    if kind == "role":
+        return columns_as_rows(security.of_role(security.roles[int(which)]))
+    return columns_as_rows(*security.of_user(security.users[int(which)]))
+
+
+def expected_rows(application, records, security, name):
+    kind, _, which = name.partition(" ")
+    if kind in ("class", "role", "user"):
+        return security_rows(security, kind, which)
     what, _, top = name.partition(" below ")
     kind, _, word = what.rpartition(" ")
     tree = Tree(application, records, word)
@@ -198,14 +263,19 @@ def difference(actual, expected):
     return ""
 
 
+def sources_of(application_file):
+    return (Application(application_file), Records(application_file),
+            Security(Path(application_file).with_suffix(".sec")))
+
+
 def main():
     application_file, folder, expected_count = sys.argv[1], Path(sys.argv[2]), int(sys.argv[3])
-    application, records = Application(application_file), Records(application_file)
+    sources = sources_of(application_file)
     workbooks = sorted(folder.glob("*.xlsx"))
     cells = 0
     for workbook in workbooks:
         actual = list(rows_of_workbook(workbook))
-        found = difference(actual, expected_rows(application, records, workbook.stem))
+        found = difference(actual, expected_rows(*sources, workbook.stem))
         if found:
             print(f"{workbook.name}: {found}")
             return 1

@@ -64,14 +64,19 @@ public:
         }
     }
 
-    void exportClasses()
+    /// Users and roles go by their positions: their names need not be names of files.
+    void exportSecurity()
     {
-        const QStringList classes = mGlobal.gSecurity->EnumSecurityClasses().names;
+        hfm::Security &security = *mGlobal.gSecurity;
+        const QStringList classes = security.EnumSecurityClasses().names;
         for (const QString &name : classes)
-            save(u"class "_s + name, [&](Worksheet &sheet) {
-                const auto answer = SecurityAccess::ofClass(*mGlobal.gSecurity, name);
-                SecurityExport::write(sheet, answer.first, answer.second);
-            });
+            exportAnswer(u"class "_s + name, SecurityAccess::ofClass(security, name));
+        const QStringList users = security.EnumRoleUsers(0).names;
+        for (qsizetype i = 0; i < users.size(); ++i)
+            exportAnswer(u"user %1"_s.arg(i), SecurityAccess::ofUser(security, users[i]));
+        const QStringList roles = security.EnumUserRoles(0).names;
+        for (qsizetype i = 0; i < roles.size(); ++i)
+            exportAnswer(u"role %1"_s.arg(i), SecurityAccess::ofRole(security, roles[i]));
     }
 
 private:
@@ -116,6 +121,12 @@ private:
         });
     }
 
+    void exportAnswer(const QString &name, const SecurityAccess::Columns &answer)
+    {
+        save(name,
+             [&](Worksheet &sheet) { SecurityExport::write(sheet, answer.first, answer.second); });
+    }
+
     void save(const QString &name, const std::function<void(Worksheet &)> &write)
     {
         WorkbookFile workbook(QDir(mFolder).filePath(name));
@@ -140,6 +151,6 @@ int main(int argc, char **argv)
     Exports exports(QString::fromLocal8Bit(argv[1]), folder);
     for (int i = 0; i < ApplicationDimensions::analysedCount; ++i)
         exports.exportDimension(ApplicationDimension(i));
-    exports.exportClasses();
+    exports.exportSecurity();
     return 0;
 }

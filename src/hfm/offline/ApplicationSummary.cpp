@@ -31,7 +31,7 @@ void addFiles(QList<QString> &lines, const ApplicationFiles &files)
 /// "WHAT: COUNT", and the names where there are some.
 QString namesLine(const QString &what, const Labels &names)
 {
-    constexpr qint32 most = 20;
+    constexpr qint32 most = 10;
     QList<QString> told;
     for (qint32 i = 0; i < std::min(names.count(), most); ++i)
         told.append(names.text(i));

@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QScrollArea>
+#include <QScrollBar>
+#include <QShortcut>
 #include <QStringListModel>
 #include <QVBoxLayout>
 
@@ -36,6 +38,7 @@ void copySelection(const QListView &list)
 QScrollArea *scrolled(QLabel *label)
 {
     auto *area = new QScrollArea(label->parentWidget());
+    area->setObjectName(QStringLiteral("scrApplicationSummary"));
     area->setWidget(label);
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
@@ -106,15 +109,16 @@ void dlgOfflineOpen::arrangeControls()
     auto *grid = new QGridLayout;
     grid->addWidget(applicationsLabel, 0, 0);
     grid->addWidget(mApplications, 1, 0);
-    grid->addWidget(scrolled(mSummary), 1, 1);
+    mSummaryArea = scrolled(mSummary);
+    grid->addWidget(mSummaryArea, 1, 1);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 2);
     auto *layout = new QVBoxLayout(this);
-    layout->addLayout(grid, 2);
+    layout->addLayout(grid, 3);
     layout->addWidget(warningsLabel);
     layout->addWidget(mWarnings, 1);
     layout->addWidget(buttons);
-    resize(fontMetrics().averageCharWidth() * 100, fontMetrics().lineSpacing() * 32);
+    resize(fontMetrics().averageCharWidth() * 100, fontMetrics().lineSpacing() * 40);
     mApplications->setFocus();
 }
 
@@ -125,7 +129,18 @@ void dlgOfflineOpen::connectControls(ErrorTrap &trap)
     trap.connect(mApplications, &QListView::doubleClicked, this, [this] { confirm(); });
     trap.connect(mOk, &QPushButton::clicked, this, [this] { confirm(); });
     trap.connect(mCancel, &QPushButton::clicked, this, [this] { reject(); });
+    // The label has the focus, so that its text can be copied, and leaves these keys alone.
+    scrollSummaryBy(trap, QKeySequence::MoveToPreviousPage, QAbstractSlider::SliderPageStepSub);
+    scrollSummaryBy(trap, QKeySequence::MoveToNextPage, QAbstractSlider::SliderPageStepAdd);
     addMenuOfWarnings(trap);
+}
+
+void dlgOfflineOpen::scrollSummaryBy(ErrorTrap &trap, QKeySequence::StandardKey key,
+                                     QAbstractSlider::SliderAction action)
+{
+    auto *shortcut = new QShortcut(key, mSummary, nullptr, nullptr, Qt::WidgetShortcut);
+    trap.connect(shortcut, &QShortcut::activated, this,
+                 [this, action] { mSummaryArea->verticalScrollBar()->triggerAction(action); });
 }
 
 void dlgOfflineOpen::addMenuOfWarnings(ErrorTrap &trap)

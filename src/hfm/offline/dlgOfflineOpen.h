@@ -3,11 +3,14 @@
 #include "hfm/offline/ApplicationChoices.h"
 #include "runtime/ErrorTrap.h"
 
+#include <QAbstractSlider>
 #include <QDialog>
+#include <QKeySequence>
 
 class QLabel;
 class QListView;
 class QPushButton;
+class QScrollArea;
 class QStringListModel;
 
 namespace hfm::offline {
@@ -29,6 +32,8 @@ private:
     void makeControls(const QString &clusterFolder);
     void arrangeControls();
     void connectControls(ErrorTrap &trap);
+    void scrollSummaryBy(ErrorTrap &trap, QKeySequence::StandardKey key,
+                         QAbstractSlider::SliderAction action);
     void addMenuOfWarnings(ErrorTrap &trap);
     void showSelected();
     void tell(const ApplicationPreview &preview);
@@ -40,6 +45,7 @@ private:
     QStringListModel *mWarningLines;
     QListView *mApplications;
     QLabel *mSummary;
+    QScrollArea *mSummaryArea = nullptr;
     QListView *mWarnings;
     QPushButton *mOk;
     QPushButton *mCancel;

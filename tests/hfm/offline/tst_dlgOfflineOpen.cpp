@@ -11,6 +11,8 @@
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -188,12 +190,12 @@ private Q_SLOTS:
     void ofManyNamesTheFirstAreTold()
     {
         QByteArray security = "!SECURITY_CLASSES\n";
-        for (int i = 1; i <= 21; ++i)
+        for (int i = 1; i <= 11; ++i)
             security += 'C' + QByteArray::number(i) + '\n';
         write("alpha.sec", security.constData());
         open();
-        QVERIFY(mSummary->text().contains(QLatin1StringView("\nSecurity classes: 21 (C1, C2, ")));
-        QVERIFY(mSummary->text().contains(QLatin1StringView(", C20, ...)\n")));
+        QVERIFY(mSummary->text().contains(QLatin1StringView("\nSecurity classes: 11 (C1, C2, ")));
+        QVERIFY(mSummary->text().contains(QLatin1StringView(", C10, ...)\n")));
     }
 
     void theSummaryCanBeCopied()
@@ -203,6 +205,21 @@ private Q_SLOTS:
         QTest::keyClick(mSummary, Qt::Key_A, Qt::ControlModifier);
         QTest::keyClick(mSummary, Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(QGuiApplication::clipboard()->text(), mSummary->text());
+    }
+
+    void aLongSummaryIsScrolledWithTheKeyboard()
+    {
+        open();
+        mDialog->resize(mDialog->width(), mDialog->minimumSizeHint().height());
+        const QScrollBar *bar =
+            mDialog->findChild<QScrollArea *>(QStringLiteral("scrApplicationSummary"))
+                ->verticalScrollBar();
+        QTRY_VERIFY(bar->maximum() > 0);
+        mSummary->setFocus();
+        QTest::keyClick(mSummary, Qt::Key_PageDown);
+        QVERIFY(bar->value() > 0);
+        QTest::keyClick(mSummary, Qt::Key_PageUp);
+        QCOMPARE(bar->value(), 0);
     }
 
     void warningsHaveAMenuThatCopiesThem()

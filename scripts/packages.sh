@@ -3,7 +3,7 @@
 
 build_packages="ca-certificates cmake fp-utils g++ libqt6svg6 libxlsxwriter-dev ninja-build qt6-base-dev"
 bench_packages="python3-xlsxwriter"
-test_packages="appstream clang clang-format desktop-file-utils git libbenchmark-dev libclang-rt-14-dev librapidcheck-dev python3 python3-openpyxl"
+test_packages="appstream clang clang-format desktop-file-utils git libbenchmark-dev libclang-rt-14-dev librapidcheck-dev locales python3 python3-openpyxl"
 packaging_packages="dpkg-dev gzip lintian"
 
 # need PACKAGE ...: makes sure that all of them are installed, as root or through sudo.

@@ -29,6 +29,18 @@ int lastError()
 
 } // namespace
 
+WorkbookWriter::PointInNumbers::PointInNumbers()
+    : mPlain(newlocale(LC_NUMERIC_MASK, "C", duplocale(LC_GLOBAL_LOCALE))),
+      mBefore(uselocale(mPlain))
+{
+}
+
+WorkbookWriter::PointInNumbers::~PointInNumbers()
+{
+    uselocale(mBefore);
+    freelocale(mPlain);
+}
+
 WorkbookWriter::WorkbookWriter(const QString &file, const QString &temporaries, QString workbook)
     : mFile(QFile::encodeName(file)), mTemporaries(QFile::encodeName(temporaries)),
       mWorkbook(std::move(workbook))

@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <clocale>
+
 class CellSpool;
 struct lxw_workbook;
 struct lxw_worksheet;
@@ -24,11 +26,26 @@ public:
     void close();
 
 private:
+    /// While it lives this thread writes numbers with a point, whatever the user's language: the
+    /// library writes them as it is told by the locale, and other programs refuse the file then.
+    class PointInNumbers
+    {
+    public:
+        PointInNumbers();
+        ~PointInNumbers();
+        Q_DISABLE_COPY_MOVE(PointInNumbers)
+
+    private:
+        locale_t mPlain;
+        locale_t mBefore;
+    };
+
     lxw_worksheet *makeSheet();
     void check(int libraryError);
     void finishRows(lxw_worksheet *sheet);
     void makeSureOfRoom();
 
+    PointInNumbers mNumbers;
     QByteArray mFile;
     QByteArray mTemporaries;
     QString mWorkbook;

@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <clocale>
 #include <cstdio>
 #include <memory>
 #include <unistd.h>
@@ -185,6 +186,22 @@ private Q_SLOTS:
         QCOMPARE(cells[3], u"C7 s '"_s + QString(32'767, u'b') + u'\'');
         QCOMPARE(errors, at(u"book.xlsx"_s) +
                              u": the text of cell C7 is longer than 32,767 characters and cut\n"_s);
+    }
+
+    void aUsersDecimalCommaDoesNotSpoilTheFile()
+    {
+        const QTemporaryDir locales;
+        QCOMPARE(QProcess::execute(u"localedef"_s, {u"-i"_s, u"de_DE"_s, u"-f"_s, u"UTF-8"_s,
+                                                    locales.filePath(u"de_DE.UTF-8"_s)}),
+                 0);
+        qputenv("LOCPATH", QFile::encodeName(locales.path()));
+        QVERIFY(std::setlocale(LC_NUMERIC, "de_DE.UTF-8"));
+        const QStringList cells = written([](Worksheet &sheet) { sheet.setCell(1, 1, u"x"); });
+        const QByteArray comma = QByteArray::number(0) + std::localeconv()->decimal_point;
+        std::setlocale(LC_NUMERIC, "C");
+        qunsetenv("LOCPATH");
+        QCOMPARE(comma, QByteArray("0,")); // which is the user's again
+        QCOMPARE(cells.last(), u"A1 s 'x'"_s);
     }
 
     void nothingButTheWorkbookIsLeft()

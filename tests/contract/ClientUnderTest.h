@@ -49,6 +49,4 @@ public:
     virtual std::shared_ptr<hfm::Session> openSession() = 0;
     /// A dimension without any member list; null where the client has none such.
     virtual std::shared_ptr<hfm::Dimension> dimensionWithoutLists() { return nullptr; }
-    /// Whether the application has a member list file with the Entity list "Units" (E3, E1).
-    virtual bool hasUserLists() const { return true; }
 };

@@ -172,4 +172,20 @@ SC_GRP;jane@CORP;All;N
 SC_GRP;Readers;Read;N
 )";
 
+inline constexpr char memberLists[] = R"(Sub EnumMemberLists()
+    Dim lists(1)
+    If HS.Dimension = "Entity" Then
+        lists(1) = "Units"
+        HS.SetMemberLists lists
+    End If
+End Sub
+
+Sub EnumMembersInList()
+    If HS.Dimension = "Entity" And HS.MemberListID = 1 Then
+        HS.AddEntityToList "WEST", "E3"
+        HS.AddEntityToList "EAST", "E1"
+    End If
+End Sub
+)";
+
 } // namespace ContractFiles

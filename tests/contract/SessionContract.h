@@ -14,7 +14,7 @@ public:
 
 private Q_SLOTS:
     void systemInformationNamesClusterAndApplication();
-    void aMemberListFileThatIsNotThereHasThePresenceFlag0();
+    void aMemberListFileThatIsThereHasAPresenceFlagOtherThan0();
     void languagesComeInTheOrderOfTheirIndexes();
     void eachAccessorGivesTheDimensionOfItsName_data();
     void eachAccessorGivesTheDimensionOfItsName();

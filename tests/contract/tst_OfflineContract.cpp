@@ -52,6 +52,7 @@ public:
         write(metadataName, metadata);
         write(u"Contract.profile"_s, ContractFiles::profile);
         write(u"Contract.sec"_s, ContractFiles::security);
+        write(u"Contract.lst"_s, ContractFiles::memberLists);
         mApplication = mUser.choose(mFolder.filePath(cluster));
         if (!mApplication)
             qFatal("the application cannot be read");
@@ -67,7 +68,6 @@ public:
     {
         return std::make_shared<OfflineSession>(mApplication, clusterName());
     }
-    bool hasUserLists() const override { return false; }
 
 private:
     void write(const QString &name, const char *text)

@@ -10,7 +10,7 @@ build="$1"
 seconds="$2"
 here="$(dirname "$0")"
 
-for fuzzer in app profile sec xml; do
+for fuzzer in app profile script sec xml; do
     case "$fuzzer" in
         profile) dictionary=app ;;
         *) dictionary="$fuzzer" ;;

@@ -2,6 +2,7 @@
 
 #include "hfm/offline/Additions.h"
 #include "hfm/offline/SystemMembers.h"
+#include "hfm/offline/UserLists.h"
 
 #include <limits>
 
@@ -35,13 +36,13 @@ MemberId Application::find(DimensionKind kind, QByteArrayView label) const
     return partners.of(dimension(DimensionKind::Entity).labels.find(label));
 }
 
-std::shared_ptr<const Application> finishApplication(ApplicationDraft &draft,
-                                                     const ApplicationFiles &files, int currentYear)
+std::shared_ptr<const Application>
+finishApplication(ApplicationDraft &draft, const ApplicationFiles &files, const QDateTime &now)
 {
     draft.pool.clear();
     for (DimensionDraft &dimension : draft.dimensions)
         dimension.putRecordsFirst();
-    Additions additions = addSystemMembers(draft, currentYear);
+    Additions additions = addSystemMembers(draft, now.date().year());
     const Labels &values = draft.dimension(DimensionKind::Value).labels();
     const MemberId noCurrency = values.find(noneLabel);
 
@@ -62,11 +63,26 @@ std::shared_ptr<const Application> finishApplication(ApplicationDraft &draft,
                                                   std::move(additions.entityCurrencies),
                                                   std::move(additions.topMembers),
                                                   std::move(additions.partners),
-                                                  std::move(draft.memberListFile)});
+                                                  std::move(draft.memberListFile),
+                                                  {},
+                                                  {},
+                                                  now,
+                                                  nullptr});
     setLanguages(*application, draft);
     application->arena = std::move(draft.arena);
     application->warnings = draft.warnings;
+    for (const QByteArray &name : std::as_const(draft.customNames))
+        application->customNames.append(QString::fromUtf8(name));
+    if (draft.defaultCurrency.count() > 0)
+        application->defaultCurrency = draft.defaultCurrency.text(0);
+    application->userLists = std::make_shared<UserLists>(*application);
     return application;
+}
+
+std::shared_ptr<const Application> finishApplication(ApplicationDraft &draft,
+                                                     const ApplicationFiles &files, int currentYear)
+{
+    return finishApplication(draft, files, QDate(currentYear, 1, 1).startOfDay());
 }
 
 } // namespace hfm::offline

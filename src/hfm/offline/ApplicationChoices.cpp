@@ -36,7 +36,7 @@ QList<QString> ApplicationChoices::names() const
 ApplicationPreview ApplicationChoices::read(qsizetype position) const
 {
     try {
-        auto application = readApplication(mApplications[position], mClock.now().date().year());
+        auto application = readApplication(mApplications[position], mClock.now());
         QString summary = summaryOf(*application, application->warnings.count());
         QList<QString> warnings = warningLines(application->warnings);
         return {std::move(application), std::move(summary), std::move(warnings)};

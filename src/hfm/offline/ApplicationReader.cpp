@@ -87,7 +87,7 @@ void warnOfOtherMetadata(const ApplicationFiles &files, ApplicationDraft &draft)
     });
 }
 
-std::shared_ptr<const Application> readFiles(const ApplicationFiles &files, int currentYear,
+std::shared_ptr<const Application> readFiles(const ApplicationFiles &files, const QDateTime &now,
                                              const LeftOut &leftOut)
 {
     Warnings warnings;
@@ -106,16 +106,17 @@ std::shared_ptr<const Application> readFiles(const ApplicationFiles &files, int 
     readOne(files.profile, SourceFile::Profile, readProfileFile);
     readOne(files.security, SourceFile::Security, readSecurityFile);
     readOne(files.memberLists, SourceFile::MemberLists, readMemberListFile);
-    return finishApplication(draft, files, currentYear);
+    return finishApplication(draft, files, now);
 }
 
 /// Reads the files again without each that breaks off, of which there are three at most.
-std::shared_ptr<const Application> readWhatCanBeRead(const ApplicationFiles &files, int currentYear)
+std::shared_ptr<const Application> readWhatCanBeRead(const ApplicationFiles &files,
+                                                     const QDateTime &now)
 {
     LeftOut leftOut;
     while (true) {
         try {
-            return readFiles(files, currentYear, leftOut);
+            return readFiles(files, now, leftOut);
         } catch (const BrokenOff &broken) {
             leftOut.emplace(broken.file, broken.reason);
         }
@@ -124,11 +125,12 @@ std::shared_ptr<const Application> readWhatCanBeRead(const ApplicationFiles &fil
 
 } // namespace
 
-std::shared_ptr<const Application> readApplication(const ApplicationFiles &files, int currentYear)
+std::shared_ptr<const Application> readApplication(const ApplicationFiles &files,
+                                                   const QDateTime &now)
 {
     const QString name = QFileInfo(files.metadata).fileName();
     try {
-        return readWhatCanBeRead(files, currentYear);
+        return readWhatCanBeRead(files, now);
     } catch (const ReadingError &) {
         throw;
     } catch (const RuntimeError &error) {
@@ -136,6 +138,11 @@ std::shared_ptr<const Application> readApplication(const ApplicationFiles &files
     } catch (const std::bad_alloc &) {
         throw ReadingError(name, 0, RuntimeError::usualDescription(OutOfMemory), OutOfMemory);
     }
+}
+
+std::shared_ptr<const Application> readApplication(const ApplicationFiles &files, int currentYear)
+{
+    return readApplication(files, QDate(currentYear, 1, 1).startOfDay());
 }
 
 } // namespace hfm::offline

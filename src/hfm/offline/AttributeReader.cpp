@@ -45,6 +45,11 @@ CustomRecord AttributeReader::custom(const MemberRecord &record)
     return custom;
 }
 
+TextRef AttributeReader::holding(const MemberRecord &record)
+{
+    return mDraft.pool.intern(record.field(Column::HoldingCompany));
+}
+
 UserDefined AttributeReader::userDefined(const MemberRecord &record)
 {
     for (unsigned i = 0; i < mLastUserDefined.size(); ++i) {

@@ -13,7 +13,10 @@ public:
 
     EntityRecord entity(const MemberRecord &record);
     AccountRecord account(const MemberRecord &record);
+    /// Of a member of a custom dimension, of Scenario or of ICP.
     CustomRecord custom(const MemberRecord &record);
+    /// An entity's holding company; 0 for most, which have none.
+    TextRef holding(const MemberRecord &record);
 
 private:
     UserDefined userDefined(const MemberRecord &record);

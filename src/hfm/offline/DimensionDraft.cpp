@@ -177,6 +177,8 @@ void DimensionDraft::putRecordsFirst()
         parent = renewed(parent);
     for (NamedParent &named : mNamedParents)
         named.member = renewed(named.member);
+    for (EntityHolding &holding : holdings)
+        holding.entity = renewed(holding.entity);
     for (Edge &edge : mEdges)
         edge = {renewed(edge.parent), renewed(edge.child)};
 }

@@ -84,6 +84,7 @@ public:
     LargeVector<EntityRecord> entities;
     LargeVector<AccountRecord> accounts;
     LargeVector<CustomRecord> customs;
+    std::vector<EntityHolding> holdings; ///< in the order of the records
 
 private:
     struct NamedParent

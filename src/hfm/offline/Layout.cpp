@@ -38,6 +38,7 @@ constexpr NamedColumn plainColumns[] = {
     {"allowadjs", Column::AllowAdjs},
     {"allowadjfromchildren", Column::AllowAdjFromChildren},
     {"isicp", Column::IsICP},
+    {"holdingcompany", Column::HoldingCompany},
     {"accounttype", Column::AccountType},
     {"iscalculated", Column::IsCalculated},
     {"isconsolidated", Column::IsConsolidated},
@@ -148,12 +149,16 @@ Layout Layout::documented(DimensionKind kind, qsizetype customs)
     case DimensionKind::Entity:
         layout.append({Column::Label, Column::DefCurrency, Column::AllowAdjs, Column::IsICP,
                        Column::AllowAdjFromChildren, Column::SecurityClass, Column::UserDefined1,
-                       Column::UserDefined2, Column::UserDefined3});
-        layout.skip(2); // HoldingCompany, SecurityAsPartner
+                       Column::UserDefined2, Column::UserDefined3, Column::HoldingCompany});
+        layout.skip(1); // SecurityAsPartner
         break;
     case DimensionKind::Scenario:
         layout.append(Column::Label);
-        layout.skip(15);
+        layout.skip(5); // DefaultFreq to ConsolidateYTD
+        layout.append({Column::UserDefined1, Column::UserDefined2, Column::UserDefined3});
+        layout.skip(1); // SupportsProcessManagement
+        layout.append(Column::SecurityClass);
+        layout.skip(5); // MaximumReviewLevel, UsesLineItems, EnableDataAudit and two more
         break;
     case DimensionKind::Custom1:
     case DimensionKind::Custom2:

@@ -23,6 +23,7 @@ enum class Column {
     AllowAdjs,
     AllowAdjFromChildren,
     IsICP, // and Account
+    HoldingCompany,
     // Account
     AccountType,
     IsCalculated,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hfm/offline/Texts.h"
+#include "hfm/Values.h"
 
 #include <array>
 
@@ -40,6 +41,14 @@ struct AccountRecord
     quint8 aggregatesCustoms : 4 = 0;
 };
 
+/// An entity that has a holding company. Few do, so that these are no part of every record.
+struct EntityHolding
+{
+    MemberId entity;
+    TextRef company;
+};
+
+/// A member of a custom dimension, of Scenario or of ICP.
 struct CustomRecord
 {
     UserDefined userDefined = {};

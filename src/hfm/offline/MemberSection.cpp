@@ -67,11 +67,19 @@ void MemberSection::storeAttributes(MemberId id, const MemberRecord &record)
 {
     const DimensionKind kind = mDimension.kind();
     if (kind == DimensionKind::Entity)
-        recordOf(mDimension.entities, id) = mAttributes.entity(record);
+        storeEntity(id, record);
     else if (kind == DimensionKind::Account)
         recordOf(mDimension.accounts, id) = mAttributes.account(record);
-    else if (isCustom(kind))
+    else if (isCustom(kind) || kind == DimensionKind::Scenario || kind == DimensionKind::ICP)
         recordOf(mDimension.customs, id) = mAttributes.custom(record);
+}
+
+void MemberSection::storeEntity(MemberId id, const MemberRecord &record)
+{
+    recordOf(mDimension.entities, id) = mAttributes.entity(record);
+    const TextRef holding = mAttributes.holding(record);
+    if (holding != 0)
+        mDimension.holdings.push_back({id, holding});
 }
 
 } // namespace hfm::offline

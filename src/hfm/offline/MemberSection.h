@@ -27,6 +27,7 @@ private:
 
     void store(const Pending &pending);
     void storeAttributes(MemberId id, const MemberRecord &record);
+    void storeEntity(MemberId id, const MemberRecord &record);
 
     ApplicationDraft &mDraft;
     DimensionDraft &mDimension;

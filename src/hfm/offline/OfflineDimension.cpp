@@ -1,6 +1,7 @@
 #include "hfm/offline/OfflineDimension.h"
 
 #include "hfm/offline/OfflineAttributes.h"
+#include "hfm/offline/UserLists.h"
 #include "runtime/RuntimeError.h"
 
 #include <numeric>
@@ -38,12 +39,17 @@ QString OfflineDimension::GetDimensionName()
 
 QList<QString> OfflineDimension::EnumMemberListNames()
 {
-    return mDimension.lists.names();
+    QList<QString> names = mDimension.lists.names();
+    for (const UserList &list : mApplication->userLists->lists(mDimension.kind))
+        names.append(list.name);
+    return names;
 }
 
 ListId OfflineDimension::GetMemberListId(const QString &listName)
 {
-    const auto list = mDimension.lists.find(listName);
+    auto list = mDimension.lists.find(listName);
+    if (!list)
+        list = mApplication->userLists->find(mDimension.kind, listName);
     if (!list)
         failUnknown(QStringLiteral("'%1' is not a member list of %2.")
                         .arg(listName, dimensionName(mDimension.kind)));
@@ -52,10 +58,13 @@ ListId OfflineDimension::GetMemberListId(const QString &listName)
 
 QList<MemberId> OfflineDimension::EnumMemberListMembers(ListId list, MemberId top)
 {
-    if (!mDimension.lists.contains(list))
+    if (mDimension.lists.contains(list))
+        return mDimension.lists.members(list, mDimension.hierarchy, top);
+    const auto members = mApplication->userLists->members(mDimension.kind, list);
+    if (!members)
         failUnknown(QStringLiteral("%1 is not the ID of a member list of %2.")
                         .arg(QString::number(list), dimensionName(mDimension.kind)));
-    return mDimension.lists.members(list, mDimension.hierarchy, top);
+    return *members;
 }
 
 QString OfflineDimension::GetMemberLabel(MemberId member)

@@ -3,6 +3,8 @@
 #include "hfm/offline/ApplicationDraft.h"
 #include "hfm/offline/ReadingError.h"
 
+#include <algorithm>
+
 namespace hfm::offline {
 
 namespace {
@@ -30,7 +32,7 @@ public:
 
         fill(mDimension.entities, DimensionKind::Entity);
         fill(mDimension.accounts, DimensionKind::Account);
-        if (isCustom(mDimension.kind()))
+        if (isCustom(mDimension.kind()) || mDimension.kind() == DimensionKind::Scenario)
             fill(mDimension.customs, mDimension.kind());
         LargeVector<qint32> generations = generationsAlong(defaultParents);
         SystemLists systemLists(mDimension.kind(), hierarchy, std::move(lists));
@@ -43,7 +45,8 @@ public:
                 std::move(generations),
                 std::move(mDimension.entities),
                 std::move(mDimension.accounts),
-                std::move(mDimension.customs)};
+                std::move(mDimension.customs),
+                sortedHoldings()};
     }
 
 private:
@@ -126,6 +129,16 @@ private:
                 .arg(name(id),
                      chosen == rootMember ? QStringLiteral("the top level") : name(chosen));
         });
+    }
+
+    std::vector<EntityHolding> sortedHoldings()
+    {
+        std::vector<EntityHolding> holdings = std::move(mDimension.holdings);
+        std::sort(holdings.begin(), holdings.end(),
+                  [](const EntityHolding &left, const EntityHolding &right) {
+                      return left.entity < right.entity;
+                  });
+        return holdings;
     }
 
     /// Climbs from each member to the first one whose generation is known, and comes back down.

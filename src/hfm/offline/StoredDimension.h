@@ -25,7 +25,10 @@ struct StoredDimension
     // By member ID in the dimension of that kind, else empty.
     LargeVector<EntityRecord> entities;
     LargeVector<AccountRecord> accounts;
+    /// Of Scenario too, and of ICP as far as its members have records.
     LargeVector<CustomRecord> customs;
+
+    std::vector<EntityHolding> holdings; ///< by entity
 
     bool isMember(MemberId id) const { return id >= 0 && id < labels.count(); }
 };

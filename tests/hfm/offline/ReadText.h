@@ -18,6 +18,7 @@ struct Texts
     QByteArray metadata;
     QByteArray profile = {};
     QByteArray security = {};
+    QByteArray memberLists = {};
 };
 
 inline constexpr int testYear = 2012;
@@ -42,6 +43,10 @@ inline std::shared_ptr<const hfm::offline::Application> readTexts(Texts texts)
         readOne(texts.security, readSecurityFile);
     ApplicationFiles files;
     files.name = QStringLiteral("Test");
+    if (!texts.memberLists.isNull()) {
+        files.memberLists = QStringLiteral("Test.lst");
+        draft.memberListFile = {texts.memberLists, 1};
+    }
     return finishApplication(draft, files, testYear);
 }
 

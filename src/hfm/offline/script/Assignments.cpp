@@ -23,7 +23,7 @@ Value &Evaluator::writable(const Name &name)
 {
     if (Value *slot = variable(name))
         return *slot;
-    mAt = name.position;
+    mRun.at = name.position;
     throw fault(name.binding == Binding::Undefined ? UndefinedVariable : IllegalAssignment,
                 spelling(name.name));
 }
@@ -33,7 +33,7 @@ ArrayData::Extents Evaluator::subscripts(std::span<Expression *const> expression
     ArrayData::Extents found;
     for (const Expression *expression : expressions) {
         const Value value = evaluate(*expression);
-        mAt = expression->position;
+        mRun.at = expression->position;
         found.append(longOf(value, mRun));
     }
     return found;
@@ -45,14 +45,14 @@ Value &Evaluator::locate(const Expression &target)
     if (target.kind == ExpressionKind::Name)
         return writable(static_cast<const Name &>(target));
     if (target.kind != ExpressionKind::Apply) {
-        mAt = target.position;
+        mRun.at = target.position;
         throw finalFault(UnknownMember);
     }
     const auto &apply = static_cast<const Apply &>(target);
     const ArrayData::Extents at = subscripts(apply.arguments);
     // From here on nothing is evaluated but the subscripts of what is further outside.
     Value &slot = locate(*apply.callee);
-    mAt = apply.position;
+    mRun.at = apply.position;
     if (slot.kind() != Kind::Array)
         throw fault(WrongType, nameOf(*apply.callee));
     return writableArray(slot, mRun.bounds).at(at);
@@ -61,7 +61,7 @@ Value &Evaluator::locate(const Expression &target)
 void Evaluator::assign(const Assign &statement)
 {
     Value value = evaluate(*statement.value);
-    mAt = statement.value->position;
+    mRun.at = statement.value->position;
     const bool isObject = value.kind() == Kind::Object;
     if (statement.isSet && !isObject)
         throw fault(ObjectRequired);
@@ -71,7 +71,7 @@ void Evaluator::assign(const Assign &statement)
         const auto &name = static_cast<const Name &>(*statement.target);
         Value &slot = writable(name);
         if (name.isFixedArray && slot.kind() == Kind::Array) {
-            mAt = name.position;
+            mRun.at = name.position;
             throw fault(WrongType, spelling(name.name));
         }
         slot = std::move(value);
@@ -93,7 +93,7 @@ void Evaluator::dim(const Dim &statement)
             throw finalFault(MemoryExhausted);
         extents.append(bound + 1);
     }
-    mAt = statement.position;
+    mRun.at = statement.position;
     if (extents.size() > ArrayData::mostDimensions)
         throw fault(BadSubscript);
     auto *data = new ArrayData(extents, mRun.memory());
@@ -104,7 +104,7 @@ void Evaluator::dim(const Dim &statement)
 void Evaluator::redim(const ReDim &statement)
 {
     ArrayData::Extents extents = subscripts(statement.bounds);
-    mAt = statement.variable->position;
+    mRun.at = statement.variable->position;
     Value &slot = writable(*statement.variable);
     if (statement.variable->isFixedArray)
         throw fault(ArrayLocked);

@@ -108,7 +108,7 @@ void Evaluator::callStatement(const Expression &call)
 Value Evaluator::callName(const Name &name, std::span<Expression *const> arguments,
                           bool isStatement)
 {
-    mAt = name.position;
+    mRun.at = name.position;
     switch (name.binding) {
     case Binding::Procedure:
         return callProcedure(name.index, arguments, isStatement);
@@ -137,7 +137,7 @@ Value Evaluator::callBuiltin(const Name &name, std::span<Expression *const> argu
     if (count < size_t(builtin.leastArguments) || count > size_t(builtin.mostArguments))
         throw fault(WrongArguments, QLatin1StringView(builtin.name));
     const ArgumentList list(*this, arguments);
-    mAt = name.position;
+    mRun.at = name.position;
     return builtin.function(list.values(), mRun);
 }
 
@@ -149,18 +149,18 @@ Value Evaluator::callProcedure(qint32 index, std::span<Expression *const> argume
         throw fault(WrongType, spelling(procedure.name));
     if (arguments.size() != procedure.parameters.size())
         throw fault(WrongArguments, spelling(procedure.name));
-    const Position at = mAt;
+    const Position at = mRun.at;
     CallScope call(*this, procedure);
     ElementArguments elements;
     for (; elements.slot < qint32(arguments.size()); ++elements.slot)
         call.slot(elements.slot) =
             argument(*arguments[size_t(elements.slot)],
                      procedure.parameters[size_t(elements.slot)].isByReference, elements);
-    mAt = at;
+    mRun.at = at;
     call.enter();
     runBlock(procedure.body);
     call.leave();
-    mAt = at;
+    mRun.at = at;
     elements.putBack(*this, call);
     return procedure.isFunction ? std::move(call.slot(procedure.resultSlot())) : Value();
 }
@@ -186,7 +186,7 @@ Value Evaluator::argument(const Expression &expression, bool isByReference,
     if (!isVariable || variable(name)->kind() != Kind::Array)
         return evaluate(expression);
     const ArrayData::Extents at = subscripts(apply.arguments);
-    mAt = apply.position;
+    mRun.at = apply.position;
     const Value &array = *variable(name);
     if (array.kind() != Kind::Array)
         throw fault(WrongType, spelling(name.name));

@@ -36,24 +36,18 @@ void Evaluator::runMain()
 
 void Evaluator::callSub(qint32 procedure)
 {
-    mAt = mProgram.procedures[size_t(procedure)].position;
+    mRun.at = mProgram.procedures[size_t(procedure)].position;
     callProcedure(procedure, {}, true);
 }
 
 void runSub(const Program &program, qint32 procedure, RunState &run)
 {
-    Position at;
     try {
         Evaluator evaluator(program, run);
-        try {
-            evaluator.runMain();
-            evaluator.callSub(procedure);
-        } catch (const Fault &) {
-            at = evaluator.position();
-            throw;
-        }
+        evaluator.runMain();
+        evaluator.callSub(procedure);
     } catch (const Fault &fault) {
-        throw ScriptError(at, fault.number, fault.text);
+        throw ScriptError(run.at, fault.number, fault.text);
     }
 }
 

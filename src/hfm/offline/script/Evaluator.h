@@ -6,7 +6,7 @@
 
 namespace hfm::offline::script {
 
-/// Runs the procedures of a program. Failures are Faults; position() tells where.
+/// Runs the procedures of a program. Failures are Faults; RunState::at tells where.
 class Evaluator
 {
 public:
@@ -20,8 +20,6 @@ public:
     void runMain();
     /// Calls a Sub without arguments.
     void callSub(qint32 procedure);
-    /// What was evaluated last.
-    Position position() const { return mAt; }
 
 private:
     enum class Flow { Normal, ExitFor, ExitDo, ExitProcedure };
@@ -88,7 +86,6 @@ private:
     std::vector<Value> mStack;          ///< arguments of functions and methods
     std::vector<qint32> mMemberNumbers; ///< by name
     Frame *mFrame = nullptr;
-    Position mAt;
 };
 
 /// Runs what stands outside of procedures and then a Sub without parameters. Fails with

@@ -49,26 +49,26 @@ Value Evaluator::evaluateMember(const Member &member, std::span<Expression *cons
         return lastErrorMember(member);
     const Value object = evaluate(*member.object);
     if (object.kind() != Kind::Object) {
-        mAt = member.object->position;
+        mRun.at = member.object->position;
         throw fault(ObjectRequired, nameOf(*member.object));
     }
     HostObject *const target = object.asObject();
     if (target == nullptr) {
-        mAt = member.object->position;
+        mRun.at = member.object->position;
         throw fault(ObjectNotSet);
     }
     const qint32 number = memberNumber(member.name);
     if (number < 0) {
-        mAt = member.position;
+        mRun.at = member.position;
         throw finalFault(UnknownMember, target->name() + QLatin1Char('.') + spelling(member.name));
     }
     if (arguments.size() == 1) {
         const Value only = evaluate(*arguments[0]);
-        mAt = member.position;
+        mRun.at = member.position;
         return target->invoke(number, {&only, 1}, mRun);
     }
     const ArgumentList list(*this, arguments);
-    mAt = member.position;
+    mRun.at = member.position;
     return target->invoke(number, list.values(), mRun);
 }
 
@@ -79,7 +79,7 @@ Value Evaluator::lastErrorMember(const Member &member)
     const auto is = [&](const char *other) {
         return name.compare(QLatin1StringView(other), Qt::CaseInsensitive) == 0;
     };
-    mAt = member.position;
+    mRun.at = member.position;
     if (is("Number"))
         return Value::integer(mRun.lastErrorNumber);
     if (is("Description"))
@@ -103,7 +103,7 @@ Value Evaluator::evaluateApply(const Apply &apply, bool isStatement)
             return callName(name, apply.arguments, isStatement);
         if (!isStatement)
             return element(*variable(name), apply);
-        mAt = name.position;
+        mRun.at = name.position;
         throw fault(WrongType, spelling(name.name));
     }
     return element(evaluate(callee), apply);
@@ -120,7 +120,7 @@ QString Evaluator::nameOf(const Expression &expression) const
 Value Evaluator::element(const Value &array, const Apply &apply)
 {
     const ArrayData::Extents at = subscripts(apply.arguments);
-    mAt = apply.position;
+    mRun.at = apply.position;
     if (array.kind() != Kind::Array)
         throw fault(WrongType, nameOf(*apply.callee));
     return array.asArray()->at(at);
@@ -129,7 +129,7 @@ Value Evaluator::element(const Value &array, const Apply &apply)
 Value Evaluator::evaluateUnary(const Unary &unary)
 {
     const Value value = evaluate(*unary.operand);
-    mAt = unary.position;
+    mRun.at = unary.position;
     switch (unary.operation) {
     case TokenKind::Not:
         return complemented(value, mRun);
@@ -154,7 +154,7 @@ Value Evaluator::evaluateChain(const Chain &chain)
 Value Evaluator::operate(const Chain::Link &link, const Value &left, bool leftIsLiteral,
                          const Value &right)
 {
-    mAt = link.position;
+    mRun.at = link.position;
     switch (link.operation) {
     case TokenKind::Join:
         return joined(left, right, mRun);

@@ -45,6 +45,7 @@ struct RunState
     Bounds bounds;
     Host &host;
     QDateTime now;
+    Position at = {}; ///< of what is being evaluated
     // What On Error Resume Next passed over last.
     qint32 lastErrorNumber = 0;
     QString lastErrorText = {};

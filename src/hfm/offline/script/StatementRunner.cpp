@@ -12,7 +12,7 @@ Evaluator::Flow Evaluator::runBlock(Block block)
         try {
             while (next < block.size()) {
                 const Statement &statement = *block[next++];
-                mAt = statement.position;
+                mRun.at = statement.position;
                 mRun.bounds.step(statement.cost);
                 const Flow flow = run(statement);
                 if (flow != Flow::Normal)
@@ -88,7 +88,7 @@ bool Evaluator::holds(const Expression &condition)
         const Value value = evaluate(condition);
         if (value.kind() == Kind::Boolean)
             return value.asInteger() != 0;
-        mAt = condition.position;
+        mRun.at = condition.position;
         return value.kind() != Kind::Null && truthOf(value, mRun);
     } catch (const Fault &fault) {
         if (!passesOver(fault))
@@ -121,7 +121,7 @@ bool Evaluator::matches(const Select::Case &choice, const Value &subject, bool i
 {
     for (const Expression *expression : choice.values) {
         const Value value = evaluate(*expression);
-        mAt = expression->position;
+        mRun.at = expression->position;
         const Value same = compared(TokenKind::Equal, {subject, isLiteral},
                                     {value, expression->kind == ExpressionKind::Literal}, mRun);
         if (same.kind() == Kind::Boolean && same.asInteger() != 0)
@@ -134,7 +134,7 @@ bool Evaluator::matches(const Select::Case &choice, const Value &subject, bool i
 Value Evaluator::startOf(const Expression &expression)
 {
     Value value = evaluate(expression);
-    mAt = expression.position;
+    mRun.at = expression.position;
     if (value.kind() == Kind::Integer || value.kind() == Kind::Double)
         return value;
     if (value.kind() == Kind::Date)
@@ -162,7 +162,7 @@ Evaluator::Flow Evaluator::runFor(const For &statement)
     }
     const bool isUpwards = doubleOf(step, mRun) >= 0;
     for (;;) {
-        mAt = statement.variable->position;
+        mRun.at = statement.variable->position;
         mRun.bounds.step();
         const double current = doubleOf(*variable, mRun);
         if (isUpwards ? current > end : current < end)
@@ -190,7 +190,7 @@ Evaluator::Flow Evaluator::runForEach(const ForEach &statement)
     Value array;
     try {
         array = evaluate(*statement.collection);
-        mAt = statement.collection->position;
+        mRun.at = statement.collection->position;
         if (array.kind() != Kind::Array)
             throw fault(NotACollection);
         variable = &writable(*statement.variable);

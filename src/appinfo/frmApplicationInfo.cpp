@@ -6,8 +6,6 @@
 #include <QMenu>
 #include <QStatusBar>
 
-#include <new>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -113,15 +111,10 @@ void frmApplicationInfo::connectChoice(frmChoiceList *list, Click click)
 
 void frmApplicationInfo::Form_Load()
 {
-    const auto tell = [this](const RuntimeError &error) {
-        mServices.prompts.ask(loadError(mRoutine, error));
-    };
     try {
         load();
-    } catch (const RuntimeError &error) {
-        tell(error);
-    } catch (const std::bad_alloc &) {
-        tell(RuntimeError(OutOfMemory));
+    } catch (...) {
+        mServices.prompts.ask(loadError(mRoutine, RuntimeError::caught()));
     }
 }
 

@@ -1,5 +1,7 @@
 #include "runtime/RuntimeError.h"
 
+#include <new>
+
 RuntimeError::RuntimeError(qint32 number) : RuntimeError(number, QStringLiteral("Tessaly"), {})
 {
 }
@@ -15,6 +17,22 @@ RuntimeError RuntimeError::naming(qint32 number, const QString &name)
 {
     return RuntimeError(number, QStringLiteral("Tessaly"),
                         usualDescription(number) + QStringLiteral(": ") + name);
+}
+
+RuntimeError RuntimeError::caught()
+{
+    try {
+        throw;
+    } catch (const RuntimeError &error) {
+        return error;
+    } catch (const std::bad_alloc &) {
+        return RuntimeError(OutOfMemory);
+    } catch (const std::exception &error) {
+        return RuntimeError(InvalidProcedureCall, QStringLiteral("Tessaly"),
+                            QString::fromLocal8Bit(error.what()));
+    } catch (...) {
+        return RuntimeError(InvalidProcedureCall);
+    }
 }
 
 QString RuntimeError::usualDescription(qint32 number)

@@ -34,6 +34,9 @@ public:
     /// An error of the run time itself over something that has a name, such as a file: "Path not
     /// found: /home/jane".
     static RuntimeError naming(qint32 number, const QString &name);
+    /// What a handler of any exception has caught: a RuntimeError as it is, std::bad_alloc as
+    /// OutOfMemory, anything else as InvalidProcedureCall. Only for the inside of such a handler.
+    static RuntimeError caught();
 
     qint32 number() const { return mNumber; }
     const QString &source() const { return mSource; }

@@ -74,8 +74,8 @@ bool acceptsClient(Services &services, ErrorLog &log)
         if (isSupportedVersion(version))
             return true;
         services.prompts.ask(incompatibleVersion(version));
-    } catch (const RuntimeError &error) {
-        report(QStringLiteral("Main"), error, services.prompts, log);
+    } catch (...) {
+        report(QStringLiteral("Main"), RuntimeError::caught(), services.prompts, log);
     }
     return false;
 }
@@ -109,8 +109,8 @@ QString GetHFMVersion(qint16 selector, Services &services, ErrorLog &log)
             throw RuntimeError(ObjectVariableNotSet);
         information->SetVersionSelector(selector);
         return information->GetVersion();
-    } catch (const RuntimeError &error) {
-        report(QStringLiteral("GetHFMVersion"), error, services.prompts, log);
+    } catch (...) {
+        report(QStringLiteral("GetHFMVersion"), RuntimeError::caught(), services.prompts, log);
         return QStringLiteral("00.00.00");
     }
 }

@@ -2,6 +2,9 @@
 
 #include <QTest>
 
+#include <new>
+#include <stdexcept>
+
 class tst_RuntimeError : public QObject
 {
     Q_OBJECT
@@ -93,6 +96,23 @@ private Q_SLOTS:
         QCOMPARE(error.number(), 76);
         QCOMPARE(error.source(), QStringLiteral("Tessaly"));
         QCOMPARE(error.description(), QStringLiteral("Path not found: /home/%1"));
+    }
+
+    void whateverIsCaughtIsAnError()
+    {
+        const auto caught = [](const auto &thrown) {
+            try {
+                throw thrown;
+            } catch (...) {
+                const RuntimeError error = RuntimeError::caught();
+                return QString::number(error.number()) + QLatin1Char(' ') + error.description();
+            }
+        };
+        QCOMPARE(caught(RuntimeError::naming(DiskFull, QStringLiteral("/x"))),
+                 QStringLiteral("61 Disk full: /x"));
+        QCOMPARE(caught(std::bad_alloc()), QStringLiteral("7 Out of memory"));
+        QCOMPARE(caught(std::runtime_error("odd")), QStringLiteral("5 odd"));
+        QCOMPARE(caught(1), QStringLiteral("5 Invalid procedure call or argument"));
     }
 };
 

@@ -60,8 +60,7 @@ double bestOf(int rounds, Action action)
 /// The time that the script itself tells, without the start of the interpreter.
 double pythonSeconds(const QString &path)
 {
-    const QString script =
-        QFileInfo(QStringLiteral(__FILE__)).path() + QStringLiteral("/open_dictionaries.py");
+    const QString script = QStringLiteral(TESSALY_BENCH "/open_dictionaries.py");
     QProcess python;
     python.start(QStringLiteral("python3"), {script, path});
     if (!python.waitForFinished(-1) || python.exitCode() != 0)

@@ -15,16 +15,12 @@ void MemberTree::build(const MemberPaths &paths, const TextOf &textOf)
     ParentFinder parents(paths);
     for (qint32 position = 0; position < paths.count(); ++position) {
         const MemberPaths::Occurrence &occurrence = paths.at(position);
-        Node node{};
-        node.member = occurrence.member;
-        node.pathParent = occurrence.parent;
-        node.parent = parents.parentOf(position);
+        add(occurrence.member, occurrence.parent, parents.parentOf(position));
         QString text = textOf(paths.memberId(position));
-        node.labelSize = occurrence.label.size;
-        node.textBehindLabel = !occurrence.label.isPrefixOf(text);
-        if (node.textBehindLabel)
+        const bool isBehindLabel = !occurrence.label.isPrefixOf(text);
+        if (isBehindLabel)
             text.prepend(occurrence.label.toString());
-        append(node, std::move(text));
+        setText(std::move(text), occurrence.label.size, isBehindLabel);
     }
 }
 
@@ -37,11 +33,9 @@ void MemberTree::buildList(const QList<hfm::MemberId> &members, const TextOf &te
         QString text = textOf(member);
         if (text.isEmpty())
             continue;
-        Node node{};
-        node.member = member;
-        node.pathParent = node.parent = none;
-        node.labelSize = qint32(std::max(text.indexOf(" - "_L1), qsizetype(0)));
-        append(node, std::move(text));
+        const auto labelSize = qint32(std::max(text.indexOf(" - "_L1), qsizetype(0)));
+        add(member, none, none);
+        setText(std::move(text), labelSize, false);
     }
 }
 
@@ -52,13 +46,13 @@ void MemberTree::reserve(qsizetype count)
     mChildren.resize(size_t(count));
 }
 
-/// `text` with the label in front where the text does not begin with it.
-void MemberTree::append(Node node, QString text)
+/// A node without a text, which it keeps to be where making the text fails.
+void MemberTree::add(hfm::MemberId member, qint32 pathParent, qint32 parent)
 {
-    const StoredText stored = mTexts.append(std::move(text));
-    node.place = stored.place;
-    node.isWide = stored.isWide;
-    node.textSize = node.textBehindLabel ? stored.size - node.labelSize : stored.size;
+    Node node{};
+    node.member = member;
+    node.pathParent = pathParent;
+    node.parent = parent;
     if (node.parent == none) {
         node.level = 1;
         node.row = mRootCount;
@@ -69,6 +63,19 @@ void MemberTree::append(Node node, QString text)
     mNodes.push_back(node);
     ++(node.parent == none ? mRootCount : mNodes[size_t(node.parent)].childCount);
     mMaxLevel = std::max(mMaxLevel, node.level);
+}
+
+/// Of the node added last. `text` stands behind its label where it does not begin with it.
+void MemberTree::setText(QString text, qint32 labelSize, bool isBehindLabel)
+{
+    const StoredText stored = mTexts.append(std::move(text));
+    Node &node = mNodes.back();
+    node.place = stored.place;
+    node.isWide = stored.isWide;
+    node.labelSize = labelSize;
+    node.textSize = isBehindLabel ? stored.size - labelSize : stored.size;
+    node.textBehindLabel = isBehindLabel;
+    node.hasText = true;
 }
 
 void MemberTree::linkChildren() noexcept
@@ -114,14 +121,14 @@ StoredText MemberTree::stored(const Node &node)
 
 QString MemberTree::key(qint32 node) const
 {
-    return mIsList ? QString() : u"KEY"_s + QString::number(node);
+    return mIsList || !at(node).hasText ? QString() : u"KEY"_s + QString::number(node);
 }
 
 QString MemberTree::tag(qint32 node) const
 {
-    if (mIsList)
-        return {};
     const Node &found = at(node);
+    if (mIsList || !found.hasText)
+        return {};
     if (found.pathParent == none)
         return memberPathEntry(hfm::rootMember, rootPathLabel, found.member, label(node));
     return memberPathEntry(at(found.pathParent).member, label(found.pathParent), found.member,

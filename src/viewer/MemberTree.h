@@ -25,7 +25,8 @@ public:
     /// Builds the tree of the entries, calling `textOf` once for each in their order. A root node
     /// for each entry that ParentFinder attaches to nothing; every other node is the last child of
     /// its parent so far. The tree must be empty.
-    /// Fails as `textOf` and MemberPaths::memberId do; the nodes before the failing one stay.
+    /// Fails as `textOf` and MemberPaths::memberId do; the nodes before the failing one stay, and
+    /// the failing one as the last, with neither text, label, key nor tag.
     void build(const MemberPaths &paths, const TextOf &textOf);
     /// Builds a list: a root node without key and tag for each member whose text is not empty, in
     /// the order of `members`. The tree must be empty. Fails as `textOf` does; the nodes before the
@@ -69,12 +70,14 @@ private:
         qint32 labelSize;
         qint32 textSize;
         bool isWide;
+        bool hasText;
         bool textBehindLabel; ///< the text does not begin with the label and stands behind it
     };
 
     const Node &at(qint32 node) const { return mNodes[size_t(node)]; }
     void reserve(qsizetype count);
-    void append(Node node, QString text);
+    void add(hfm::MemberId member, qint32 pathParent, qint32 parent);
+    void setText(QString text, qint32 labelSize, bool isBehindLabel);
     static StoredText stored(const Node &node);
     void linkChildren() noexcept;
 

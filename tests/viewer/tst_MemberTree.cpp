@@ -120,7 +120,7 @@ private Q_SLOTS:
         } catch (const RuntimeError &error) {
             QCOMPARE(error.number(), 13);
         }
-        QCOMPARE(printedTexts(*mTree), u"A - \nP#Q - \n"_s);
+        QCOMPARE(printedTexts(*mTree), u"A - \nP#Q - \n\n"_s);
     }
 
     void aHashAndANumberInAParentsLabelShowTheMemberOfThatNumber()
@@ -154,9 +154,27 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(RuntimeError, mTree->build(paths, [this](hfm::MemberId member) {
             return textOf(member);
         }));
-        QCOMPARE(printedTexts(*mTree), u"A - \n  B - \n  C - \n"_s);
-        QCOMPARE(mTree->count(), 3);
+        QCOMPARE(printedTexts(*mTree), u"A - \n  B - \n  C - \n\n"_s);
+        QCOMPARE(mTree->count(), 4);
         QCOMPARE(mTree->key(2), u"KEY2"_s);
+    }
+
+    void theNodeWhoseTextFailsStaysBlankInItsPlace()
+    {
+        mDimension.setMembers(u"A\n  B\n  C"_s);
+        MemberPaths paths;
+        paths.read(mDimension);
+        mHfm.calls().fail("GetMemberDescription"_L1, RuntimeError(70), 2);
+        QVERIFY_THROWS_EXCEPTION(RuntimeError, mTree->build(paths, [this](hfm::MemberId member) {
+            return textOf(member);
+        }));
+        QCOMPARE(mTree->count(), 2);
+        QCOMPARE(mTree->parent(1), 0);
+        QCOMPARE(mTree->childCount(0), 1);
+        QCOMPARE(mTree->text(1), QString());
+        QCOMPARE(mTree->label(1), QString());
+        QCOMPARE(mTree->key(1), QString());
+        QCOMPARE(mTree->tag(1), QString());
     }
 
     void aNodeWithAnEmptyTextKeepsKeyTagAndLabel()

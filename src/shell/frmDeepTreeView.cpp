@@ -91,8 +91,21 @@ bool DeepTreeView::openAt(const QPoint &position)
 void DeepTreeView::mousePressEvent(QMouseEvent *event)
 {
     mTrap.run([&] {
-        if (event->button() != Qt::LeftButton || !openAt(event->position().toPoint()))
+        // A tree view would open and close nodes by their signs with any button.
+        if (event->button() != Qt::LeftButton)
+            QAbstractItemView::mousePressEvent(event);
+        else if (!openAt(event->position().toPoint()))
             QTreeView::mousePressEvent(event);
+    });
+}
+
+void DeepTreeView::mouseReleaseEvent(QMouseEvent *event)
+{
+    mTrap.run([&] {
+        if (event->button() != Qt::LeftButton)
+            QAbstractItemView::mouseReleaseEvent(event);
+        else
+            QTreeView::mouseReleaseEvent(event);
     });
 }
 

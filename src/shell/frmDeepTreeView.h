@@ -5,7 +5,8 @@
 #include <QTreeView>
 
 /// A tree view of one column that opens nodes quickly however many nodes there are, as deep as they
-/// may be, and lets long texts be scrolled to.
+/// may be, and lets long texts be scrolled to. The signs of nodes answer to the left mouse button
+/// alone.
 class DeepTreeView : public QTreeView
 {
     Q_OBJECT
@@ -26,6 +27,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
     void updateGeometries() override;
 

@@ -19,7 +19,14 @@ MemberTreeView::MemberTreeView(ErrorTrap &trap, MemberTreeModel *model, QWidget 
 QModelIndex MemberTreeView::selectedNode() const
 {
     const QModelIndex current = currentIndex();
-    return selectionModel()->isSelected(current) ? current : QModelIndex();
+    if (selectionModel()->isSelected(current))
+        return current;
+    // Ctrl and the mouse can make another node current.
+    const QModelIndexList selected = selectionModel()->selectedIndexes();
+    const auto first = std::min_element(selected.begin(), selected.end(), [this](auto &a, auto &b) {
+        return mModel->node(a) < mModel->node(b);
+    });
+    return first == selected.end() ? QModelIndex() : *first;
 }
 
 void MemberTreeView::mouseReleaseEvent(QMouseEvent *event)
@@ -37,7 +44,7 @@ void MemberTreeView::contextMenuEvent(QContextMenuEvent *event)
     if (event->reason() == QContextMenuEvent::Mouse)
         return;
     mTrap.run([&] {
-        const QPoint position = visualRect(currentIndex()).intersected(viewport()->rect()).center();
+        const QPoint position = visualRect(selectedNode()).intersected(viewport()->rect()).center();
         Q_EMIT menuRequested(viewport()->mapToGlobal(position));
     });
 }
@@ -63,8 +70,10 @@ void MemberTreeView::copySelection()
 /// last one. The same letter typed again and again goes from one to the next.
 void MemberTreeView::keyboardSearch(const QString &typed)
 {
+    if (typed.isEmpty())
+        return;
     const bool goesOn =
-        mSinceTyped.isValid() && !mSinceTyped.hasExpired(QApplication::keyboardInputInterval());
+        mSinceTyped.isValid() && mSinceTyped.elapsed() < QApplication::keyboardInputInterval();
     mSinceTyped.start();
     mTyped = goesOn ? mTyped + typed : typed;
     const bool isRepeated =

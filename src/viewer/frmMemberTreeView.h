@@ -17,7 +17,8 @@ public:
 
     MemberTreeView(ErrorTrap &trap, MemberTreeModel *model, QWidget *parent = nullptr);
 
-    /// The node that commands are about: the current one, if it is selected; else invalid.
+    /// The node that commands are about: the current one, if it is selected; else the first of
+    /// those that are; invalid where none is.
     QModelIndex selectedNode() const;
 
     void keyboardSearch(const QString &typed) override;

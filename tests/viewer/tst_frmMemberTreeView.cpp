@@ -65,9 +65,16 @@ class tst_frmMemberTreeView : public QObject
         return QToolTip::isVisible();
     }
 
+    static constexpr int typesOn = 3'600'000; ///< milliseconds: no pause of a test is that long
+    static void setTypingPause(int milliseconds)
+    {
+        QApplication::setKeyboardInputInterval(milliseconds);
+    }
+
 private Q_SLOTS:
     void init()
     {
+        setTypingPause(typesOn);
         mModel = std::make_unique<MemberTreeModel>();
         mView = std::make_unique<MemberTreeView>(mServices.trap, mModel.get());
         mView->resize(400, 300);
@@ -123,6 +130,29 @@ private Q_SLOTS:
         QVERIFY(mView->isExpanded(node(0)));
         QTest::mouseClick(mView->viewport(), Qt::LeftButton, {}, signOf(0));
         QVERIFY(!mView->isExpanded(node(0)));
+    }
+
+    void otherButtonsLeaveTheSignAlone_data()
+    {
+        QTest::addColumn<Qt::MouseButton>("button");
+        QTest::addColumn<int>("menus");
+        QTest::newRow("right") << Qt::RightButton << 2;
+        QTest::newRow("middle") << Qt::MiddleButton << 0;
+    }
+    void otherButtonsLeaveTheSignAlone()
+    {
+        QFETCH(Qt::MouseButton, button);
+        QFETCH(int, menus);
+        show(u"A\n  B\nC"_s);
+        mView->setCurrentIndex(node(2));
+        const QSignalSpy menuRequested(mView.get(), &MemberTreeView::menuRequested);
+        QTest::mouseClick(mView->viewport(), button, {}, signOf(0));
+        QVERIFY(!mView->isExpanded(node(0)));
+        QCOMPARE(mView->selectedNode(), node(0));
+        mView->expand(node(0));
+        QTest::mouseClick(mView->viewport(), button, {}, signOf(0));
+        QVERIFY(mView->isExpanded(node(0)));
+        QCOMPARE(menuRequested.count(), menus);
     }
 
     void aClosedNodeComesBackWithWhatWasOpenBelowIt_data()
@@ -219,6 +249,35 @@ private Q_SLOTS:
         QCOMPARE(current(), 0);
     }
 
+    void afterAPauseTheSearchStartsAfresh()
+    {
+        show(u"Alpha\nBravo\nAlaska"_s);
+        mView->setCurrentIndex(node(2));
+        setTypingPause(0);
+        QTest::keyClicks(mView.get(), u"a"_s);
+        QCOMPARE(current(), 0);
+        QTest::keyClicks(mView.get(), u"b"_s);
+        QCOMPARE(current(), 1);
+    }
+
+    void aLabelWithABlankCanBeTyped()
+    {
+        show(u"Newark\nNew York\nNew Zealand"_s);
+        mView->setCurrentIndex(node(0));
+        QTest::keyClicks(mView.get(), u"new z"_s);
+        QCOMPARE(current(), 2);
+    }
+
+    void typingNothingSearchesNothing()
+    {
+        show(u"Alpha\nBravo"_s);
+        mView->setCurrentIndex(node(1));
+        mView->keyboardSearch({});
+        QCOMPARE(current(), 1);
+        mView->keyboardSearch(u"a"_s);
+        QCOMPARE(current(), 0);
+    }
+
     void aLabelThatIsNowhereLeavesTheCurrentNode()
     {
         show(u"Alpha|zz\n  Zeta\nBeta"_s);
@@ -301,6 +360,16 @@ private Q_SLOTS:
         QVERIFY(!mView->selectedNode().isValid());
     }
 
+    void whereTheCurrentNodeIsNotSelectedTheFirstSelectedOneCounts()
+    {
+        show(u"A\nB\nC\nD"_s);
+        mView->setCurrentIndex(node(2));
+        mView->selectionModel()->select(node(1), QItemSelectionModel::Select);
+        QCOMPARE(mView->selectedNode(), node(2));
+        mView->selectionModel()->setCurrentIndex(node(3), QItemSelectionModel::NoUpdate);
+        QCOMPARE(mView->selectedNode(), node(1));
+    }
+
     // Long texts.
 
     void aLongTextCanBeScrolledTo()
@@ -329,6 +398,20 @@ private Q_SLOTS:
         show(u"A|"_s + QString(200, u'x') + u"\nB"_s);
         QVERIFY(!showsTooltip(1));
         QVERIFY(showsTooltip(0));
+        QVERIFY(QToolTip::text().contains(QString(200, u'x')));
+    }
+
+    void aTextScrolledOutToTheLeftHasATooltip()
+    {
+        show(u"A|"_s + QString(200, u'x') + u"\nB"_s);
+        QTRY_VERIFY(mView->horizontalScrollBar()->maximum() > 0);
+        mView->horizontalScrollBar()->setValue(mView->horizontalScrollBar()->maximum());
+        const QRect row = mView->visualRect(node(0));
+        QVERIFY(row.left() < 0);
+        const QPoint seen(5, row.center().y());
+        QHelpEvent event(QEvent::ToolTip, seen, mView->viewport()->mapToGlobal(seen));
+        QCoreApplication::sendEvent(mView->viewport(), &event);
+        QVERIFY(event.isAccepted());
         QVERIFY(QToolTip::text().contains(QString(200, u'x')));
     }
 

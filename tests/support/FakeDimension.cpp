@@ -129,9 +129,10 @@ QList<QString> FakeDimension::EnumAllMemberLabels()
     return labels;
 }
 
-QList<MemberId> FakeDimension::EnumChildMembers(qint32, MemberId parent)
+QList<MemberId> FakeDimension::EnumChildMembers(qint32 selector, MemberId parent)
 {
     mData->calls->enter("EnumChildMembers"_L1);
+    mChildSelectors.insert(selector);
     requireMemberOrRoot(parent);
     return mData->members.childrenOf(parent);
 }

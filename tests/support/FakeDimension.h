@@ -47,6 +47,8 @@ public:
     void clearLists() { mLists.clear(); }
     /// The list and the top member of the latest EnumMemberListMembers.
     std::pair<hfm::ListId, hfm::MemberId> listAsked() const { return mListAsked; }
+    /// The selectors of every EnumChildMembers so far.
+    QSet<qint32> childSelectors() const { return mChildSelectors; }
 
     // hfm::Dimension.
 
@@ -84,4 +86,5 @@ private:
     std::shared_ptr<FakeDimensionData> mData;
     FakeLists mLists;
     std::pair<hfm::ListId, hfm::MemberId> mListAsked;
+    QSet<qint32> mChildSelectors;
 };

@@ -178,6 +178,39 @@ private Q_SLOTS:
         QCOMPARE(mGlobal.gDimension->GetDimensionName(), u"Custom2"_s);
     }
 
+    void theDimensionIsSetBackOnlyAfterTheLastAttributeCall_data()
+    {
+        QTest::addColumn<bool>("expanded");
+        QTest::addColumn<QByteArray>("last");
+        QTest::newRow("plain") << false << QByteArray("GetAccountUserDefined3");
+        QTest::newRow("expanded") << true << QByteArray("GetAccountCustom4AggEnabled");
+    }
+    void theDimensionIsSetBackOnlyAfterTheLastAttributeCall()
+    {
+        QFETCH(bool, expanded);
+        QFETCH(QByteArray, last);
+        choose(FakeKind::Account);
+        mHfm->calls().fail(QLatin1StringView(last), RuntimeError(70));
+        QVERIFY_THROWS_EXCEPTION(RuntimeError, attributes(1, expanded));
+        QCOMPARE(mGlobal.gDimension->GetDimensionName(), u"Custom4"_s);
+    }
+
+    void theAttributesAreThoseOfTheNamedDimensionWhateverIsCurrent_data()
+    {
+        QTest::addColumn<FakeKind>("kind");
+        QTest::newRow("account") << FakeKind::Account;
+        QTest::newRow("entity") << FakeKind::Entity;
+        QTest::newRow("custom") << FakeKind::Custom3;
+    }
+    void theAttributesAreThoseOfTheNamedDimensionWhateverIsCurrent()
+    {
+        QFETCH(FakeKind, kind);
+        choose(kind);
+        const QString expected = attributes(1, true);
+        mGlobal.gDimension = application().dimensions[size_t(FakeKind::Year)];
+        QCOMPARE(attributes(1, true), expected);
+    }
+
     void everyFailingOperationEndsTheRoutine_data()
     {
         QTest::addColumn<FakeKind>("kind");
@@ -240,6 +273,28 @@ private Q_SLOTS:
         choose(FakeKind::Entity);
         application().entity().entity(u"US01"_s).securityClass = 1;
         QVERIFY(attributes(1).contains(u", ChildAdjs=False, [Default], ICP=True"_s));
+    }
+
+    void onlyBlanksAreBlank()
+    {
+        application().security->addClass(u"\t"_s);
+        choose(FakeKind::Entity);
+        FakeEntity &us = application().entity().entity(u"US01"_s);
+        us.securityClass = 2;
+        us.userDefined = {u"\t"_s, u" \n"_s, u"\u00A0"_s};
+        QVERIFY(attributes(1).contains(u", Security=\t, ICP="_s));
+        QVERIFY(attributes(1).endsWith(u", UD1=\t, UD2= \n, UD3=\u00A0"_s));
+        choose(FakeKind::Account);
+        application().account().account(u"Cost"_s).securityClass = 2;
+        QVERIFY(attributes(2).contains(u", Security=\t, UD1="_s));
+    }
+
+    void aBlankClassIsNotTheFiltersDefault()
+    {
+        choose(FakeKind::Entity);
+        application().entity().entity(u"US01"_s).securityClass = 1;
+        QCOMPARE(attributes(1, false, {true, {}, u"[default]"_s}), QString());
+        QVERIFY(!attributes(1, false, {true, {}, u"  "_s}).isEmpty());
     }
 
     void anEntityThatFailsTheFilterHasNoAttributes()

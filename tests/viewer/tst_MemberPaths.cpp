@@ -160,6 +160,14 @@ private Q_SLOTS:
         QCOMPARE(errorOf([&] { mPaths.read(mDimension, 3); }), 7);
         QCOMPARE(mPaths.count(), 3);
     }
+
+    void allChildrenAreAskedForEachTime()
+    {
+        mDimension.setMembers(u"A\n  B\n    C\nD"_s);
+        mPaths.read(mDimension);
+        QCOMPARE(mHfm.calls().count("EnumChildMembers"_L1), 5);
+        QCOMPARE(mDimension.childSelectors(), QSet<qint32>{-1});
+    }
 };
 
 QTEST_APPLESS_MAIN(tst_MemberPaths)

@@ -76,7 +76,6 @@ void frmMetadataViewer::load()
         mServices.prompts.ask(ViewerRules::unsupportedDimension(mGlobal.gDimensionName));
     }
     removeTopMember();
-    mControls.members->setFocus();
 }
 
 void frmMetadataViewer::SetTitles()
@@ -166,6 +165,7 @@ void frmMetadataViewer::removeTopMember()
 {
     mControls.members->show();
     mControls.topMember->hide();
+    mControls.members->setFocus();
     mControls.topMemberEntry->setVisible(true);
     mControls.normalTreeViewEntry->setVisible(false);
     mControls.removeTopMember->hide();

@@ -29,6 +29,7 @@ ViewerControls::ViewerControls(QMainWindow *window, ErrorTrap &trap, MemberTreeM
 {
     dimension = makeHeading(nullptr, "lblDimension");
     totalMembers = makeLabel(nullptr, "lblTotalMembers", {});
+    totalMembers->setMinimumWidth(1); // a long name of a top member is cut, and widens no window
     applicationPanel = makeStatusPanel(window->statusBar());
     showAttributes =
         makeOptionGroup(window, "optShowAttributes", {u"Show Attributes"_s, u"Hide Attributes"_s});

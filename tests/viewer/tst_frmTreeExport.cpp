@@ -177,6 +177,28 @@ private Q_SLOTS:
         QVERIFY(top->isExpanded(top->model()->index(0, 0)));
     }
 
+    void aRebuildBehindTheTopMemberViewLeavesOneLevelColumn()
+    {
+        openCustom(u"T|t\n  A|a\n    B|b"_s);
+        setTopMember({0, 0});
+        click("chk_ExpAttribs");
+        prompts().answers = {Prompts::Answer::No};
+        click("cmdSendToExcel");
+        QCOMPARE(spreadsheet().rows(),
+                 QStringList({u"Level 1||Description"_s, u"A||a"_s, u"|B|b"_s}));
+    }
+
+    void theHeaderIsWrittenBeforeTheTreeIsExpanded()
+    {
+        openCustom(u"A|a\n  B|b"_s);
+        spreadsheet().failingStep = u"cells(1, 4)"_s;
+        spreadsheet().failure = RuntimeError(1004, u"Excel"_s, u"No."_s);
+        click("cmdSendToExcel");
+        QCOMPARE(mServices->program.endCodes, QList<int>{1});
+        auto *tree = find<QTreeView>("trvMembers");
+        QVERIFY(!tree->isExpanded(tree->model()->index(0, 0)));
+    }
+
     void theFullTreeIsExportedAgainWhenTheTopMemberIsRemoved()
     {
         openCustom(u"T|t\n  A|a"_s);

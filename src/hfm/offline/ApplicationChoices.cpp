@@ -2,20 +2,17 @@
 
 #include "hfm/offline/ApplicationSummary.h"
 #include "hfm/offline/ReadingError.h"
+#include "hfm/offline/UserLists.h"
 
 namespace hfm::offline {
 
 namespace {
 
-QList<QString> warningLines(const Warnings &warnings)
+void addLines(QList<QString> &lines, const Warnings &warnings)
 {
-    QList<QString> lines;
     const QList<Warning> list = warnings.list();
     for (const Warning &warning : list)
         lines.append(withPlace(warning.file, warning.line, warning.text));
-    if (warnings.count() > list.size())
-        lines.append(QStringLiteral("... and %1 more").arg(warnings.count() - list.size()));
-    return lines;
 }
 
 } // namespace
@@ -37,9 +34,15 @@ ApplicationPreview ApplicationChoices::read(qsizetype position) const
 {
     try {
         auto application = readApplication(mApplications[position], mClock.now());
-        QString summary = summaryOf(*application, application->warnings.count());
-        QList<QString> warnings = warningLines(application->warnings);
-        return {std::move(application), std::move(summary), std::move(warnings)};
+        const Warnings &ofLists = application->userLists->check();
+        const qint64 count = application->warnings.count() + ofLists.count();
+        QList<QString> lines;
+        addLines(lines, application->warnings);
+        addLines(lines, ofLists);
+        if (count > lines.size())
+            lines.append(QStringLiteral("... and %1 more").arg(count - lines.size()));
+        QString summary = summaryOf(*application, count);
+        return {std::move(application), std::move(summary), std::move(lines)};
     } catch (const RuntimeError &error) {
         return {nullptr, error.description(), {}};
     }

@@ -25,8 +25,8 @@ public:
 
     /// The applications' names, sorted.
     QList<QString> names() const;
-    /// Reads the application at that position of names(). Whatever is wrong with its files is told
-    /// in the answer.
+    /// Reads the application at that position of names() and makes all of its member lists, so that
+    /// whatever is wrong with its files is told in the answer.
     ApplicationPreview read(qsizetype position) const;
 
 private:

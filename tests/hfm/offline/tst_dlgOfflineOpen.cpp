@@ -187,6 +187,34 @@ private Q_SLOTS:
                  QStringLiteral("alpha.app: alpha.xml stands beside this file; it is not read."));
     }
 
+    void memberListsAreNamedAndTried()
+    {
+        write("alpha.lst", "Sub EnumMemberLists()\n"
+                           "  Dim lists(2)\n"
+                           "  If HS.Dimension = \"Entity\" Then\n"
+                           "    lists(1) = \"Good\"\n"
+                           "    lists(2) = \"Bad\"\n"
+                           "    HS.SetMemberLists lists\n"
+                           "  End If\n"
+                           "End Sub\n"
+                           "Sub EnumMembersInList()\n"
+                           "  If HS.MemberListID = 1 Then\n"
+                           "    HS.AddMemberToList \"EAST\"\n"
+                           "  Else\n"
+                           "    HS.NoSuchThing\n"
+                           "  End If\n"
+                           "End Sub\n");
+        open();
+        const QString summary = mSummary->text();
+        QVERIFY(summary.contains(QLatin1StringView("\nMember lists of Entity: 2 (Good, Bad)\n")));
+        QVERIFY(!summary.contains(QLatin1StringView("Member lists of Account")));
+        QVERIFY(summary.endsWith(QLatin1StringView("\nWarnings: 2")));
+        QCOMPARE(rows(*mWarnings).size(), 2);
+        QVERIFY2(rows(*mWarnings).last().startsWith(QLatin1StringView("alpha.lst, line 13: ")),
+                 qPrintable(rows(*mWarnings).last()));
+        QVERIFY(mOk->isEnabled());
+    }
+
     void ofManyNamesTheFirstAreTold()
     {
         QByteArray security = "!SECURITY_CLASSES\n";

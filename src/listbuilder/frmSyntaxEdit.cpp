@@ -11,14 +11,6 @@ namespace {
 
 constexpr int charactersInATab = 4;
 
-/// A document's text with its own line ends. Qt's plain text of a document has blanks where the
-/// document has no-break blanks, which labels may hold.
-QString withLineEnds(QString raw, QLatin1StringView lineEnd)
-{
-    return raw.replace(QChar::LineSeparator, QChar::ParagraphSeparator)
-        .replace(QChar::ParagraphSeparator, lineEnd);
-}
-
 } // namespace
 
 SyntaxEdit::SyntaxEdit(QWidget *parent) : QPlainTextEdit(parent)
@@ -31,12 +23,18 @@ SyntaxEdit::SyntaxEdit(QWidget *parent) : QPlainTextEdit(parent)
 
 QString SyntaxEdit::text() const
 {
-    return withLineEnds(document()->toRawText(), "\r\n"_L1);
+    // Qt's plain text of a document has blanks where labels may have no-break blanks.
+    return mText.fromDocument(document()->toRawText(), "\r\n"_L1);
+}
+
+void SyntaxEdit::setText(const QString &text)
+{
+    setPlainText(mText.toDocument(text));
 }
 
 QMimeData *SyntaxEdit::createMimeDataFromSelection() const
 {
     auto selected = std::make_unique<QMimeData>();
-    selected->setText(withLineEnds(textCursor().selectedText(), "\n"_L1));
+    selected->setText(mText.fromDocument(textCursor().selectedText(), "\n"_L1));
     return selected.release();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "listbuilder/SyntaxText.h"
+
 #include <QPlainTextEdit>
 
 /// A text box for a script: lines are not wrapped, TAB goes to the next control, and what is read
@@ -15,8 +17,11 @@ public:
     /// The text as it stands, with CR LF between the lines.
     QString text() const;
     /// Replaces the text; nothing is left to be undone.
-    void setText(const QString &text) { setPlainText(text); }
+    void setText(const QString &text);
 
 protected:
     QMimeData *createMimeDataFromSelection() const override;
+
+private:
+    SyntaxText mText;
 };

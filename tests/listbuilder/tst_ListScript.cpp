@@ -191,6 +191,24 @@ private Q_SLOTS:
         QCOMPARE(QApplication::clipboard()->text(), QString(syntax()).remove(u'\r'));
     }
 
+    void charactersThatEndADocumentsLinesStayThoseOfTheirLabel()
+    {
+        const QString odd = u"A\u2028B\u2029C\uFDD0D\uFDD1E"_s;
+        open(odd);
+        QCOMPARE(mBuilder->rows("lstMemberList"), QStringList{odd});
+        mBuilder->click("cmdGenerateList");
+        const QString generated = GenerateListSyntax(u"Account"_s, {odd});
+        QCOMPARE(syntax(), generated);
+        box()->moveCursor(QTextCursor::End);
+        mBuilder->key("txtMemberListSyntax", Qt::Key_Return);
+        QCOMPARE(syntax(), generated + u"\r\n"_s);
+        box()->selectAll();
+        box()->copy();
+        QCOMPARE(QApplication::clipboard()->text(), QString(syntax()).remove(u'\r'));
+        mBuilder->click("cmdSaveMemberListFile");
+        QCOMPARE(mBuilder->global.gPendingText, syntax());
+    }
+
     void linesAreNotWrapped() { QCOMPARE(box()->lineWrapMode(), QPlainTextEdit::NoWrap); }
 
     void longScriptsAreShownWhole()
@@ -246,6 +264,36 @@ private Q_SLOTS:
         QVERIFY(dialog->isVisible());
         QVERIFY(dialog->isModal());
         QCOMPARE(dialog->parentWidget(), mBuilder->window.data());
+    }
+
+    void theDialogListsTheFilesOfTheMemberListPattern()
+    {
+        QTemporaryDir folder;
+        for (const QString &name : {u".lst"_s, u"a.lst"_s, u".csv"_s, u"b.csv"_s})
+            QVERIFY(QFile(folder.filePath(name)).open(QIODevice::WriteOnly));
+        mBuilder->fake.services.programFolder = folder.path();
+        mBuilder->global.gSaveFilePattern = u"*.csv"_s;
+        mBuilder->click("cmdSaveMemberListFile");
+        const auto *dialog = mBuilder->window->findChild<frmDrvDirFil *>();
+        const auto *files = dialog->findChild<QListView *>(u"Filebox"_s)->model();
+        QCOMPARE(files->rowCount(), 1);
+        QCOMPARE(files->index(0, 0).data().toString(), u".lst"_s);
+    }
+
+    void theDialogFindsWhatItSavesAsItIsMade()
+    {
+        mBuilder->click("cmdGenerateList");
+        asked().clear();
+        mBuilder->fake.services.programFolder = mFolder.filePath(u"gone"_s);
+        mBuilder->fake.prompts.answers = {Prompts::Answer::Cancel};
+        const modGlobal &global = mBuilder->global;
+        QStringList found;
+        mBuilder->fake.prompts.whileAsking = [&] {
+            found = {global.gPendingText, global.gSaveFilePattern, global.gSaveMode};
+        };
+        mBuilder->click("cmdSaveMemberListFile");
+        QCOMPARE(asked().size(), 1);
+        QCOMPARE(found, QStringList({syntax(), u".lst"_s, u"MEMBERLIST"_s}));
     }
 
     void savingAnEmptyBoxStillOpensTheDialogWithAnEmptyText()

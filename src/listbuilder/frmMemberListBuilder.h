@@ -63,6 +63,6 @@ private:
     modGlobal &mGlobal;
     BuilderTreeModel mTree;
     NewListModel mNewList;
-    KeyHold mHeldKey; ///< in the new list
+    KeyHold mDeleteKey; ///< in the new list
     frmMemberListBuilderControls mControls;
 };

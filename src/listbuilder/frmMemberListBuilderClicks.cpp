@@ -76,13 +76,13 @@ void frmMemberListBuilder::insertRows(const QStringList &rows)
 
 void frmMemberListBuilder::lstMemberList_KeyDown(const QKeyEvent &key)
 {
-    mHeldKey.press(key.key(), key.timestamp(), key.isAutoRepeat());
+    if (key.key() == Qt::Key_Delete)
+        mDeleteKey.press(key.timestamp(), key.isAutoRepeat());
 }
 
 void frmMemberListBuilder::lstMemberList_KeyUp(const QKeyEvent &key)
 {
-    const bool counts = mHeldKey.release(key.key(), key.timestamp(), key.isAutoRepeat());
-    if (counts && key.key() == Qt::Key_Delete)
+    if (key.key() == Qt::Key_Delete && mDeleteKey.release(key.timestamp(), key.isAutoRepeat()))
         mNewList.remove(selectedRow());
     enableGenerating();
 }

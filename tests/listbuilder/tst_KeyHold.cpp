@@ -11,52 +11,60 @@ private Q_SLOTS:
     {
         KeyHold hold;
         for (const quint64 time : {100, 200}) {
-            hold.press(Qt::Key_Delete, time, false);
-            QVERIFY(hold.release(Qt::Key_Delete, time + 50, false));
+            hold.press(time, false);
+            QVERIFY(hold.release(time + 50, false));
         }
     }
 
     void repetitionsThatAreMarkedDoNotCountAndTheLastReleaseDoes()
     {
         KeyHold hold;
-        hold.press(Qt::Key_Delete, 100, false);
+        hold.press(100, false);
         for (const quint64 time : {600, 640}) {
-            QVERIFY(!hold.release(Qt::Key_Delete, time, true));
-            hold.press(Qt::Key_Delete, time, true);
+            QVERIFY(!hold.release(time, true));
+            hold.press(time, true);
         }
-        QVERIFY(hold.release(Qt::Key_Delete, 660, false));
+        QVERIFY(hold.release(660, false));
     }
 
     void ofRepetitionsThatAreNotMarkedOneCounts()
     {
         KeyHold hold;
-        hold.press(Qt::Key_Delete, 100, false);
-        QVERIFY(hold.release(Qt::Key_Delete, 600, false));
-        hold.press(Qt::Key_Delete, 600, false);
-        QVERIFY(!hold.release(Qt::Key_Delete, 640, false));
-        hold.press(Qt::Key_Delete, 640, false);
-        QVERIFY(!hold.release(Qt::Key_Delete, 660, false));
-        hold.press(Qt::Key_Delete, 900, false);
-        QVERIFY(hold.release(Qt::Key_Delete, 950, false));
+        hold.press(100, false);
+        QVERIFY(hold.release(600, false));
+        hold.press(600, false);
+        QVERIFY(!hold.release(640, false));
+        hold.press(640, false);
+        QVERIFY(!hold.release(660, false));
+        hold.press(900, false);
+        QVERIFY(hold.release(950, false));
     }
 
     void whereTimesAreNotKnownEachReleaseCounts()
     {
         KeyHold hold;
         for (int i = 0; i < 2; ++i) {
-            hold.press(Qt::Key_Delete, 0, false);
-            QVERIFY(hold.release(Qt::Key_Delete, 0, false));
+            hold.press(0, false);
+            QVERIFY(hold.release(0, false));
         }
     }
 
-    void anotherKeyIsNoRepetition()
+    void aReleaseWithoutAPressCounts()
     {
         KeyHold hold;
-        hold.press(Qt::Key_Down, 100, false);
-        QVERIFY(hold.release(Qt::Key_Down, 200, false));
-        hold.press(Qt::Key_Delete, 200, false);
-        QVERIFY(hold.release(Qt::Key_Delete, 250, false));
-        QVERIFY(hold.release(Qt::Key_Up, 250, false)); // pressed elsewhere
+        QVERIFY(hold.release(100, false));
+        QVERIFY(hold.release(250, false));
+        hold.press(250, false); // held since it was pressed elsewhere
+        QVERIFY(!hold.release(290, false));
+        QVERIFY(hold.release(500, false));
+    }
+
+    void aMarkedRepetitionWithoutAPressDoesNotCount()
+    {
+        KeyHold hold;
+        QVERIFY(!hold.release(100, true));
+        QVERIFY(!hold.release(140, true));
+        QVERIFY(hold.release(160, false));
     }
 };
 

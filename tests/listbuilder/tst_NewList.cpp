@@ -27,6 +27,13 @@ private:
     QString newList() const { return mBuilder->rows("lstMemberList").join(u' '); }
     int selected() const { return mBuilder->selected("lstMemberList"); }
     void select(int row) { mBuilder->select("lstMemberList", row); }
+    void send(const char *control, QEvent::Type type, Qt::Key key, quint64 time,
+              bool isRepetition = false)
+    {
+        QKeyEvent event(type, key, Qt::NoModifier, QString(), isRepetition);
+        event.setTimestamp(time);
+        QApplication::sendEvent(mBuilder->control<QWidget>(control), &event);
+    }
     bool canGenerate() const { return mBuilder->isEnabled("cmdGenerateList"); }
     void name(const QString &text) { mBuilder->type("txtMemberListName", text); }
     void focusElsewhere() { mBuilder->tree()->setFocus(); }
@@ -97,22 +104,77 @@ private Q_SLOTS:
     void aHeldDeleteKeyWhoseRepetitionsAreNotMarkedRemovesOneRow()
     {
         select(0);
-        QListView *list = mBuilder->list("lstMemberList");
-        const auto send = [&](QEvent::Type type, quint64 time) {
-            QKeyEvent event(type, Qt::Key_Delete, Qt::NoModifier);
-            event.setTimestamp(time);
-            QApplication::sendEvent(list, &event);
-        };
-        send(QEvent::KeyPress, 100);
+        send("lstMemberList", QEvent::KeyPress, Qt::Key_Delete, 100);
         for (const quint64 time : {700, 740, 780}) {
-            send(QEvent::KeyRelease, time);
-            send(QEvent::KeyPress, time);
+            send("lstMemberList", QEvent::KeyRelease, Qt::Key_Delete, time);
+            send("lstMemberList", QEvent::KeyPress, Qt::Key_Delete, time);
         }
-        send(QEvent::KeyRelease, 800);
+        send("lstMemberList", QEvent::KeyRelease, Qt::Key_Delete, 800);
         QCOMPARE(newList(), u"B C"_s);
-        send(QEvent::KeyPress, 1000);
-        send(QEvent::KeyRelease, 1050);
+        send("lstMemberList", QEvent::KeyPress, Qt::Key_Delete, 1000);
+        send("lstMemberList", QEvent::KeyRelease, Qt::Key_Delete, 1050);
         QCOMPARE(newList(), u"C"_s);
+    }
+
+    void aDeleteKeyThatIsPressedElsewhereAndReleasedInTheListRemovesTheRow()
+    {
+        select(0);
+        send("lstMemberList", QEvent::KeyPress, Qt::Key_Delete, 100);
+        send("lstMemberList", QEvent::KeyRelease, Qt::Key_Delete, 150);
+        QCOMPARE(newList(), u"B C"_s);
+        send("trvMembers", QEvent::KeyPress, Qt::Key_Delete, 900);
+        send("lstMemberList", QEvent::KeyRelease, Qt::Key_Delete, 950);
+        QCOMPARE(newList(), u"C"_s);
+    }
+
+    void aHeldDeleteKeyThatComesFromElsewhereRemovesOneRow()
+    {
+        select(0);
+        send("trvMembers", QEvent::KeyPress, Qt::Key_Delete, 100);
+        for (const quint64 time : {700, 740, 780}) {
+            send("lstMemberList", QEvent::KeyRelease, Qt::Key_Delete, time);
+            send("lstMemberList", QEvent::KeyPress, Qt::Key_Delete, time);
+        }
+        send("lstMemberList", QEvent::KeyRelease, Qt::Key_Delete, 800);
+        QCOMPARE(newList(), u"B C"_s);
+    }
+
+    void anotherKeyWhileDeleteIsHeldRemovesNothing()
+    {
+        select(0);
+        send("lstMemberList", QEvent::KeyPress, Qt::Key_Delete, 100);
+        send("lstMemberList", QEvent::KeyRelease, Qt::Key_Delete, 700);
+        send("lstMemberList", QEvent::KeyPress, Qt::Key_Delete, 700);
+        send("lstMemberList", QEvent::KeyPress, Qt::Key_Shift, 750);
+        send("lstMemberList", QEvent::KeyRelease, Qt::Key_Shift, 760);
+        send("lstMemberList", QEvent::KeyRelease, Qt::Key_Delete, 800);
+        QCOMPARE(newList(), u"B C"_s);
+    }
+
+    void theNextRowIsSelectedAfterADeletionAndAfterTheLastOnesThePrevious()
+    {
+        select(1);
+        mBuilder->click("cmdDeleteMemberInList");
+        QCOMPARE(newList(), u"A C"_s);
+        QCOMPARE(selected(), 1);
+        mBuilder->key("lstMemberList", Qt::Key_Delete);
+        QCOMPARE(newList(), u"A"_s);
+        QCOMPARE(selected(), 0);
+        mBuilder->key("lstMemberList", Qt::Key_Delete);
+        QCOMPARE(newList(), QString());
+        QCOMPARE(selected(), -1);
+    }
+
+    void rowsAreDeletedFromAListOfMoreThan32767()
+    {
+        open(16'384);
+        mBuilder->click("cmdListSelected");
+        mBuilder->list("lstMemberList")
+            ->setCurrentIndex(mBuilder->list("lstMemberList")->model()->index(32'767, 0));
+        mBuilder->key("lstMemberList", Qt::Key_Delete);
+        QCOMPARE(mBuilder->rows("lstMemberList").size(), 32'767);
+        QCOMPARE(selected(), 32'766);
+        QVERIFY(mBuilder->fake.prompts.asked.isEmpty());
     }
 
     void clearRemovesEveryRowAndGivesTheListTheFocus()
@@ -276,6 +338,21 @@ private Q_SLOTS:
         mBuilder->control<QLineEdit>("txtMemberListName")->setText(u"Sales"_s);
         mBuilder->key("lstMemberList", Qt::Key_Shift);
         QVERIFY(canGenerate());
+    }
+
+    void theRuleIsAppliedAsAHeldKeyRepeatsToo()
+    {
+        auto *name = mBuilder->control<QLineEdit>("txtMemberListName");
+        for (const char *control : {"lstMemberList", "txtMemberListName"}) {
+            mBuilder->control<QWidget>(control)->setFocus();
+            name->setText(u"Sales"_s);
+            QVERIFY2(!canGenerate(), control);
+            send(control, QEvent::KeyRelease, Qt::Key_Shift, 100, true);
+            QVERIFY2(canGenerate(), control);
+            name->setText({});
+            send(control, QEvent::KeyRelease, Qt::Key_Shift, 200, true);
+            QVERIFY2(!canGenerate(), control);
+        }
     }
 
     void clearingTurnsItOffByKeyTooWhileTheListHasTheFocus()

@@ -1,6 +1,7 @@
 #include "listbuilder/frmMemberListBuilder.h"
 
 #include "listbuilder/BuilderRules.h"
+#include "listbuilder/frmLeftDoubleClick.h"
 #include "listbuilder/ListViewer.h"
 #include "listbuilder/MemberRows.h"
 #include "runtime/Required.h"
@@ -42,6 +43,7 @@ void frmMemberListBuilder::connectPicking()
     trap.connect(mControls.cmdTreeViewUncheckAll, &QPushButton::clicked, this,
                  [this] { mTree.checkAll(false); });
     onClick(mControls.cmdTreeViewChecked, &frmMemberListBuilder::cmdTreeViewChecked_Click);
+    new frmLeftDoubleClick(mControls.trvMembers);
     trap.connect(mControls.trvMembers, &DeepTreeView::doubleClicked, this,
                  [this](const QModelIndex &node) { trvMembers_DblClick(node); });
     trap.connect(mControls.cmdListSelectAll, &QPushButton::clicked, this,
@@ -49,6 +51,7 @@ void frmMemberListBuilder::connectPicking()
     trap.connect(mControls.cmdListDeselectAll, &QPushButton::clicked, this,
                  [this] { mControls.lstMetadata->clearSelection(); });
     onClick(mControls.cmdListSelected, &frmMemberListBuilder::cmdListSelected_Click);
+    new frmLeftDoubleClick(mControls.lstMetadata);
     trap.connect(mControls.lstMetadata, &QListView::doubleClicked, this,
                  [this](const QModelIndex &row) { lstMetadata_DblClick(row); });
 }

@@ -99,11 +99,12 @@ public:
         const QModelIndexList selected = list(name)->selectionModel()->selectedIndexes();
         return selected.isEmpty() ? -1 : selected.size() == 1 ? selected[0].row() : -2;
     }
-    static void doubleClick(QAbstractItemView *view, const QModelIndex &index)
+    static void doubleClick(QAbstractItemView *view, const QModelIndex &index,
+                            Qt::MouseButton button = Qt::LeftButton)
     {
         const QPoint place = view->visualRect(index).center();
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place);
-        QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseClick(view->viewport(), button, {}, place);
+        QTest::mouseDClick(view->viewport(), button, {}, place);
     }
 
     void type(const char *name, const QString &text)

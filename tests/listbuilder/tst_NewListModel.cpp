@@ -2,6 +2,7 @@
 #include "support/Errors.h"
 
 #include <QAbstractItemModelTester>
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -107,6 +108,26 @@ private Q_SLOTS:
         mList->clear();
         QCOMPARE(mList->moveUp(-1), -1);
         QCOMPARE(mList->moveDown(-1), -1);
+    }
+
+    void aMoveTellsOfTheTwoRowsThatChanged()
+    {
+        QSignalSpy changed(mList.get(), &NewListModel::dataChanged);
+        mList->moveUp(2);
+        mList->moveDown(0);
+        QCOMPARE(changed.size(), 2);
+        QCOMPARE(changed[0][0].toModelIndex().row(), 1);
+        QCOMPARE(changed[0][1].toModelIndex().row(), 2);
+        QCOMPARE(changed[1][0].toModelIndex().row(), 0);
+        QCOMPARE(changed[1][1].toModelIndex().row(), 1);
+    }
+
+    void aMoveThatMovesNothingTellsOfNoChange()
+    {
+        QSignalSpy changed(mList.get(), &NewListModel::dataChanged);
+        mList->moveUp(0);
+        mList->moveDown(2);
+        QCOMPARE(changed.size(), 0);
     }
 
     void movingInAListOfMoreThan32767RowsOverflows()

@@ -1,5 +1,10 @@
 #include "BuilderWindow.h"
 
+#include <QApplication>
+#include <QLineEdit>
+
+#include <functional>
+
 using namespace Qt::StringLiterals;
 
 /// Moving members from the builder window's tree and flat list into the new list.
@@ -18,6 +23,21 @@ private:
     }
     QStringList newList() const { return mBuilder->rows("lstMemberList"); }
     QModelIndex node(std::initializer_list<int> rows) const { return mBuilder->node(rows); }
+    QModelIndex row(int row) const { return mBuilder->list("lstMetadata")->model()->index(row, 0); }
+
+    /// The controls that get the focus while something is done, in order.
+    static QStringList focusedWhile(const std::function<void()> &something)
+    {
+        QStringList names;
+        const auto connection =
+            QObject::connect(qApp, &QApplication::focusChanged, qApp, [&](QWidget *, QWidget *now) {
+                if (now)
+                    names.append(now->objectName());
+            });
+        something();
+        QObject::disconnect(connection);
+        return names;
+    }
 
 private Q_SLOTS:
     void init() { open(u"A|Alpha\n  S|Shared\n    X\n  Y\nB|Beta\n  S"_s); }
@@ -117,6 +137,29 @@ private Q_SLOTS:
         QVERIFY(!mBuilder->isChecked(node({0, 0})));
     }
 
+    void aDoubleClickOnANodeLeavesTheChecks()
+    {
+        mBuilder->check(node({0, 0}));
+        mBuilder->check(node({1}));
+        mBuilder->doubleClick(mBuilder->tree(), node({1}));
+        mBuilder->doubleClick(mBuilder->tree(), node({0, 1}));
+        QCOMPARE(newList(), QStringList({u"B"_s, u"Y"_s}));
+        for (const QModelIndex &checked : {node({0, 0}), node({1})})
+            QVERIFY(mBuilder->isChecked(checked));
+        for (const QModelIndex &other : {node({0}), node({0, 0, 0}), node({0, 1}), node({1, 0})})
+            QVERIFY(!mBuilder->isChecked(other));
+    }
+
+    void aDoubleClickOfAnotherButtonInsertsNothing()
+    {
+        for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+            mBuilder->doubleClick(mBuilder->tree(), node({0, 0}), button);
+            mBuilder->doubleClick(mBuilder->list("lstMetadata"), row(4), button);
+        }
+        QCOMPARE(newList(), QStringList());
+        QVERIFY(mBuilder->tree()->isExpanded(node({0, 0})));
+    }
+
     void aDoubleClickBesideTheNodesInsertsNothing()
     {
         const QPoint below(5, mBuilder->tree()->viewport()->height() - 5);
@@ -167,6 +210,38 @@ private Q_SLOTS:
         QVERIFY(mBuilder->isEnabled("cmdGenerateList"));
     }
 
+    void aDoubleClickOnARowMovesTheFocusToTheNewListAndBack()
+    {
+        mBuilder->type("txtMemberListName", u"Sales"_s);
+        mBuilder->select("lstMetadata", 4);
+        QVERIFY(!mBuilder->isEnabled("cmdGenerateList"));
+        QCOMPARE(
+            focusedWhile([&] { mBuilder->doubleClick(mBuilder->list("lstMetadata"), row(4)); }),
+            QStringList({u"lstMemberList"_s, u"lstMetadata"_s}));
+        QVERIFY(mBuilder->isEnabled("cmdGenerateList"));
+        QVERIFY(mBuilder->hasFocus("lstMetadata"));
+    }
+
+    void insertMovesTheFocusToTheNewListAndBack()
+    {
+        QCOMPARE(focusedWhile([&] { mBuilder->click("cmdListSelected"); }),
+                 QStringList({u"cmdListSelected"_s, u"lstMemberList"_s, u"lstMetadata"_s}));
+    }
+
+    void checkingAndSelectingAllMoveTheFocusToNoList()
+    {
+        mBuilder->click("cmdTreeViewChecked");
+        mBuilder->click("cmdListSelectAll");
+        mBuilder->click("cmdListSelected");
+        mBuilder->control<QLineEdit>("txtMemberListName")->setText(u"Sales"_s);
+        for (const char *button : {"cmdTreeViewCheckAll", "cmdTreeViewUncheckAll",
+                                   "cmdListSelectAll", "cmdListDeselectAll"}) {
+            QCOMPARE(focusedWhile([&] { mBuilder->click(button); }),
+                     QStringList{QString::fromLatin1(button)});
+            QVERIFY2(!mBuilder->isEnabled("cmdGenerateList"), button);
+        }
+    }
+
     void insertWithNothingSelectedMovesTheFocusAllTheSame()
     {
         mBuilder->click("cmdListSelected");
@@ -176,8 +251,7 @@ private Q_SLOTS:
 
     void aDoubleClickOnARowInsertsIt()
     {
-        mBuilder->doubleClick(mBuilder->list("lstMetadata"),
-                              mBuilder->list("lstMetadata")->model()->index(4, 0));
+        mBuilder->doubleClick(mBuilder->list("lstMetadata"), row(4));
         QCOMPARE(newList(), QStringList{u"B"_s});
         QVERIFY(mBuilder->hasFocus("lstMetadata"));
         QCOMPARE(mBuilder->selected("lstMetadata"), 4);

@@ -199,6 +199,14 @@ private Q_SLOTS:
         QCOMPARE(control<QLabel>("lblDimensionLists")->text(), u"CUSTOM1 Lists:"_s);
     }
 
+    void theCaptionsNameTheDimensionWhateverTheSharedNameSays()
+    {
+        mBuilder->choose(FakeKind::Account, u"CUSTOM1"_s);
+        openAnew();
+        QCOMPARE(control<QLabel>("lblDimension")->text(), u"ACCOUNT Dimension"_s);
+        QCOMPARE(control<QLabel>("lblDimensionLists")->text(), u"ACCOUNT Lists:"_s);
+    }
+
     void forEntityTreeAndListStayEmptyAndTheSevenButtonsOff()
     {
         mBuilder->fake.hfm.application().entity().setMembers(u"E|Group"_s);

@@ -114,11 +114,11 @@ void viewLists(Journey &journey)
     journey.on(builder, u"Look at the lists that are there"_s, [&journey](QWidget &window) {
         checkScript(journey);
         Hands::tab(window, "ssTabMemberListBuilder", u"List Viewer "_s);
-        Hands::choose(window, "cboMemberLists", u"[Children]"_s);
+        Hands::choose(window, "cboMemberLists", u"Main lines"_s);
     });
     journey.on(builder, u"Close the window"_s, [&journey](QWidget &window) {
         journey.check(Hands::text(window, "lblMembersInList") ==
-                          u"ACCOUNT list  [CHILDREN]  -  26 members"_s,
+                          u"ACCOUNT list  MAIN LINES  -  12 members"_s,
                       u"the list is shown"_s);
         journey.picture(window, u"list-viewer"_s);
         Hands::menu(window, "mnuClose");

@@ -37,8 +37,10 @@ QStringList names(const QString &folder, Wanted wanted)
     QStringList found;
     while (!code && entries != std::filesystem::directory_iterator()) {
         const std::string &path = entries->path().native();
-        const QString name = QFile::decodeName(path.c_str() + path.find_last_of('/') + 1);
-        if (wanted(*entries, name))
+        const QByteArray written(path.c_str() + path.find_last_of('/') + 1);
+        const QString name = QFile::decodeName(written);
+        // One written in another encoding cannot be named: its text would lead to another file.
+        if (QFile::encodeName(name) == written && wanted(*entries, name))
             found.append(name);
         entries.increment(code);
     }

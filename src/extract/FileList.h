@@ -4,7 +4,7 @@
 #include <QStringList>
 
 /// What a folder holds, read at once. Names come in alphabetical order, in any letter case; links
-/// count as what they point to.
+/// count as what they point to, and a name that is no text in the system's encoding is left out.
 /// The readers fail with RuntimeError PathNotFound, PermissionDenied or PathFileAccessError where
 /// the folder cannot be read; the description names it.
 namespace FileList {

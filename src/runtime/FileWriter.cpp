@@ -1,6 +1,7 @@
 #include "runtime/FileWriter.h"
 
 #include "runtime/CodePage.h"
+#include "runtime/InPlaceWriter.h"
 #include "runtime/SystemError.h"
 
 #include <QFile>
@@ -9,6 +10,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -33,37 +35,33 @@ void refuseWhatIsNoFile(const QString &path)
         throw RuntimeError::naming(PathNotFound, path);
 }
 
-/// The functions that write return the system's error number, 0 when all is well.
-int lastError()
-{
-    return errno != 0 ? errno : EIO;
-}
-
-int writeBytes(QFileDevice &file, QByteArrayView bytes)
+/// The functions that write return the system's error number, 0 when all is well. They ask the
+/// system themselves: of a write that takes a part and then fails Qt tells neither.
+int writeBytes(int file, QByteArrayView bytes)
 {
     while (!bytes.isEmpty()) {
-        // A disk that fills up takes a part first and says why only when asked once more.
-        errno = 0;
-        const qint64 count = file.write(bytes.data(), bytes.size());
+        const ssize_t count = write(file, bytes.data(), size_t(bytes.size()));
+        if (count < 0 && errno == EINTR)
+            continue;
         if (count <= 0)
-            return lastError();
+            return count < 0 ? errno : EIO;
         bytes = bytes.sliced(count);
     }
     return 0;
 }
 
 /// Some file systems report a full disk or a lost server only when the data must reach the disk.
-int bringToDisk(QFileDevice &file)
+int bringToDisk(int file)
 {
-    errno = 0;
-    if (!file.flush())
-        return lastError();
-    const bool done = fdatasync(file.handle()) == 0;
+    int failed = 0;
+    do {
+        failed = fdatasync(file);
+    } while (failed && errno == EINTR);
     const bool deviceKnowsNoSync = errno == EINVAL || errno == ENOTSUP;
-    return done || deviceKnowsNoSync ? 0 : lastError();
+    return failed && !deviceKnowsNoSync ? errno : 0;
 }
 
-int writeText(QFileDevice &file, QStringView text)
+int writeText(int file, QStringView text)
 {
     while (!text.isEmpty()) {
         qsizetype length = std::min(blockLength, text.size());
@@ -76,33 +74,36 @@ int writeText(QFileDevice &file, QStringView text)
     return bringToDisk(file);
 }
 
-/// Writes beside the target and renames over it. False when the folder does not allow that; the
-/// target is untouched then.
-bool replaceAsAWhole(const QString &path, QStringView text)
+/// Gives a file the owner, group and permissions of another; false where that is not allowed.
+bool takeAfter(int file, const struct stat &other)
 {
-    const QFileInfo target(path);
-    const bool isDevice = target.exists() && !target.isFile();
-    QSaveFile file(path);
-    if (isDevice || !file.open(QIODevice::WriteOnly))
+    struct stat own = {};
+    if (fstat(file, &own) != 0)
         return false;
-    if (target.exists()) {
-        // The "user" permissions say what this user may do, not what the file's mode is.
-        constexpr QFile::Permissions user = QFile::ReadUser | QFile::WriteUser | QFile::ExeUser;
-        file.setPermissions(target.permissions() & ~user);
-    }
-    if (const int error = writeText(file, text))
-        throw errorFromSystem(error, path);
-    return file.commit();
+    const bool isOthers = own.st_uid != other.st_uid || own.st_gid != other.st_gid;
+    if (isOthers && fchown(file, other.st_uid, other.st_gid) != 0)
+        return false;
+    // A file system without permissions refuses them all.
+    fchmod(file, other.st_mode & 07777);
+    return true;
 }
 
-void writeInPlace(const QString &path, QStringView text)
+/// Writes beside the target and renames over it. False when the folder does not allow that, or
+/// when the file would become another's; the target is untouched then.
+bool replaceAsAWhole(const QString &path, QStringView text)
 {
-    QFile file(path);
-    errno = 0;
-    if (!file.open(QIODevice::WriteOnly))
-        throw errorFromSystem(errno, path);
-    if (const int error = writeText(file, text))
+    struct stat target = {};
+    const bool exists = stat(QFile::encodeName(path).constData(), &target) == 0;
+    if (!exists && errno != ENOENT) // a link in a circle, perhaps, which must stay
+        return false;
+    QSaveFile file(path);
+    if ((exists && !S_ISREG(target.st_mode)) || !file.open(QIODevice::WriteOnly))
+        return false;
+    if (exists && !takeAfter(file.handle(), target))
+        return false;
+    if (const int error = writeText(file.handle(), text))
         throw errorFromSystem(error, path);
+    return file.commit();
 }
 
 } // namespace
@@ -110,6 +111,7 @@ void writeInPlace(const QString &path, QStringView text)
 void writeTextFile(const QString &path, QStringView text)
 {
     refuseWhatIsNoFile(path);
-    if (!replaceAsAWhole(path, text))
-        writeInPlace(path, text);
+    if (replaceAsAWhole(path, text))
+        return;
+    writeInPlace(path, text.size(), [&](int file) { return writeText(file, text); });
 }

@@ -7,6 +7,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 class tst_FileList : public QObject
@@ -77,6 +81,22 @@ private Q_SLOTS:
         QCOMPARE(listed.size(), names.size());
         for (const QString &name : names)
             QVERIFY2(listed.contains(name), qPrintable(name));
+    }
+
+    void aNameThatIsNoTextIsLeftOut()
+    {
+        const QByteArray folder = QFile::encodeName(path());
+        QCOMPARE(mkdir((folder + "/latin-\xE9").constData(), 0700), 0);
+        const int file = creat((folder + "/caf\xE9.txt").constData(), 0600);
+        QVERIFY(file >= 0);
+        ::close(file);
+        makeFiles({u"tea.txt"_s});
+        QCOMPARE(FileList::files(path(), u"*"_s), QStringList{u"tea.txt"_s});
+        QCOMPARE(FileList::folders(path()), QStringList());
+        QVERIFY(!FileList::hasFile(path(), u"caf\uFFFD.txt"_s));
+        // Qt cannot name them to remove them.
+        unlink((folder + "/caf\xE9.txt").constData());
+        rmdir((folder + "/latin-\xE9").constData());
     }
 
     void foldersAreNotFilesAndFilesAreNotFolders()

@@ -34,6 +34,12 @@ ino_t inode(const QString &path)
     return stat(path.toUtf8().constData(), &status) == 0 ? status.st_ino : 0;
 }
 
+uid_t owner(const QString &path)
+{
+    struct stat status = {};
+    return stat(path.toUtf8().constData(), &status) == 0 ? status.st_uid : uid_t(-1);
+}
+
 mode_t mode(const QString &path)
 {
     struct stat status = {};
@@ -146,6 +152,33 @@ private Q_SLOTS:
         QCOMPARE(int(mode(file())), 0444);
     }
 
+    void aFileOfAnotherUserStaysHis()
+    {
+        put(file(), "old");
+        OrdinaryUser::own(file());
+        const uid_t before = owner(file());
+        writeTextFile(file(), u"new");
+        QCOMPARE(contents(file()), QByteArray("new"));
+        QCOMPARE(owner(file()), before);
+    }
+
+    void aFileOfAnotherUserThatCannotStayHisIsWrittenInPlace()
+    {
+        put(file(), "old");
+        setMode(file(), 0666);
+        const uid_t before = owner(file());
+        const ino_t inodeBefore = inode(file());
+        bool isAnothers = false;
+        {
+            const OrdinaryUser user;
+            isAnothers = geteuid() != before;
+            writeTextFile(file(), u"new");
+        }
+        QCOMPARE(contents(file()), QByteArray("new"));
+        QCOMPARE(owner(file()), before);
+        QCOMPARE(inode(file()) == inodeBefore, isAnothers);
+    }
+
     void aNewFileHasTheUsersUsualPermissions()
     {
         const mode_t before = umask(027);
@@ -165,6 +198,40 @@ private Q_SLOTS:
         QVERIFY(QFileInfo(at("middle.txt")).isSymLink());
         QVERIFY(!QFileInfo(at("elsewhere/target.txt")).isSymLink());
         QCOMPARE(contents(at("elsewhere/target.txt")), QByteArray("new"));
+    }
+
+    void aSymbolicLinkIntoAFolderThatTakesNoNewFileHasItsTargetWritten()
+    {
+        QVERIFY(QDir(mFolder->path()).mkdir(QStringLiteral("elsewhere")));
+        put(at("elsewhere/target.txt"), "old");
+        OrdinaryUser::own(at("elsewhere/target.txt"));
+        setMode(at("elsewhere"), 0555);
+        QVERIFY(QFile::link(QStringLiteral("elsewhere/target.txt"), file()));
+        {
+            const OrdinaryUser user;
+            QCOMPARE(errorOfWriting(file(), u"new"), QStringLiteral("none"));
+        }
+        setMode(at("elsewhere"), 0755);
+        QVERIFY(QFileInfo(file()).isSymLink());
+        QCOMPARE(contents(at("elsewhere/target.txt")), QByteArray("new"));
+    }
+
+    void aSymbolicLinkToWhatIsNoFileFailsAsThatDoes()
+    {
+        QVERIFY(QDir(mFolder->path()).mkdir(QStringLiteral("elsewhere")));
+        QVERIFY(QFile::link(QStringLiteral("elsewhere"), at("folder.txt")));
+        QVERIFY(QFile::link(QStringLiteral("circle.txt"), at("circle.txt")));
+        QVERIFY(QFile::link(QStringLiteral("missing/target.txt"), at("nowhere.txt")));
+        QVERIFY(QFile::link(QStringLiteral("/dev/full"), at("full.txt")));
+        const auto failsWith = [this](const char *name, const QString &error) {
+            return errorOfWriting(at(name), u"new") == error + QStringLiteral(": ") + at(name);
+        };
+        QVERIFY(failsWith("folder.txt", QStringLiteral("75 Path/File access error")));
+        QVERIFY(failsWith("circle.txt", QStringLiteral("75 Path/File access error")));
+        QVERIFY(failsWith("nowhere.txt", QStringLiteral("76 Path not found")));
+        const OrdinaryUser user; // who cannot replace the device if this ever goes wrong
+        QVERIFY(failsWith("full.txt", QStringLiteral("61 Disk full")));
+        QCOMPARE(entries().size(), 5);
     }
 
     void aSymbolicLinkToNothingMakesItsTarget()

@@ -140,8 +140,8 @@ Value combined(TokenKind operation, const Value &left, const Value &right, RunSt
         return decides ? other : Value::null();
     }
     const bool isTruth = left.kind() == Kind::Boolean && right.kind() == Kind::Boolean;
-    const qint32 first = longOf(left, run);
-    const qint32 second = longOf(right, run);
+    const qint32 first = isTruth ? left.asInteger() : longOf(left, run);
+    const qint32 second = isTruth ? right.asInteger() : longOf(right, run);
     const qint32 bits = operation == TokenKind::And  ? first & second
                         : operation == TokenKind::Or ? first | second
                                                      : first ^ second;

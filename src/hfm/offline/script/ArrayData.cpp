@@ -64,10 +64,8 @@ Value &ArrayData::at(std::span<const qint32> subscripts)
     return elements[index];
 }
 
-void releaseArray(ArrayData *data)
+void destroyArray(ArrayData *data)
 {
-    if (--data->references > 0)
-        return;
     std::vector<ArrayData *> dying = {data};
     while (!dying.empty()) {
         ArrayData *const next = dying.back();

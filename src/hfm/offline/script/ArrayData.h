@@ -11,14 +11,13 @@ namespace hfm::offline::script {
 
 /// The elements of an array; lower bounds are 0. Elements stand with the first subscript varying
 /// fastest, as For Each visits them.
-struct ArrayData
+struct ArrayData : Counted
 {
     /// How many subscripts each dimension has; none at all for an array that was declared without
     /// bounds and not given any yet.
     using Extents = QVarLengthArray<qint32, 4>;
     static constexpr qsizetype mostDimensions = 60;
 
-    quint32 references = 1;
     Extents extents;
     std::vector<Value> elements;
     Memory *memory;
@@ -36,9 +35,21 @@ struct ArrayData
     Value &at(std::span<const qint32> subscripts);
 };
 
-/// Gives back a reference; destroys what nobody refers to any more, without recursion however deep
-/// arrays stand in arrays.
-void releaseArray(ArrayData *data);
+inline ArrayData *Value::asArray() const
+{
+    return static_cast<ArrayData *>(mCounted);
+}
+
+inline Value Value::array(ArrayData *data)
+{
+    Value result(Kind::Array);
+    result.mCounted = data;
+    return result;
+}
+
+/// Destroys an array that nobody refers to any more, without recursion however deep arrays stand in
+/// arrays.
+void destroyArray(ArrayData *data);
 
 /// The array of a variable, to write to: one that no other variable shares. `slot` must be of kind
 /// Array. Charges the copy to `bounds`.

@@ -5,20 +5,6 @@
 
 namespace hfm::offline::script {
 
-/// The variable that a name stands for; nullptr where it stands for none.
-Value *Evaluator::variable(const Name &name)
-{
-    switch (name.binding) {
-    case Binding::Local:
-    case Binding::Result:
-        return &mFrame->slots[name.index].target();
-    case Binding::Global:
-        return &mGlobals[size_t(name.index)];
-    default:
-        return nullptr;
-    }
-}
-
 Value &Evaluator::writable(const Name &name)
 {
     if (Value *slot = variable(name))

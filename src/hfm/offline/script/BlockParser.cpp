@@ -7,13 +7,13 @@ namespace hfm::offline::script {
 namespace {
 
 /// Counts one up for as long as it lives.
-class Counted
+class CountedUp
 {
 public:
-    explicit Counted(qint32 &count) : mCount(count) { ++mCount; }
-    ~Counted() { --mCount; }
-    Counted(const Counted &) = delete;
-    Counted &operator=(const Counted &) = delete;
+    explicit CountedUp(qint32 &count) : mCount(count) { ++mCount; }
+    ~CountedUp() { --mCount; }
+    CountedUp(const CountedUp &) = delete;
+    CountedUp &operator=(const CountedUp &) = delete;
 
 private:
     qint32 &mCount;
@@ -54,7 +54,7 @@ void StatementParser::ifOnOneLine(If &node, std::vector<If::Branch> &branches)
 {
     if (mReader.kind() == TokenKind::EndOfLine)
         mReader.failExpecting(QStringLiteral("statement"));
-    const Counted inside(mOneLineIfs);
+    const CountedUp inside(mOneLineIfs);
     branches.back().block = blockOnOneLine();
     if (mReader.takeIf(TokenKind::Else))
         node.otherwise = blockOnOneLine();
@@ -67,7 +67,7 @@ void StatementParser::ifOnOneLine(If &node, std::vector<If::Branch> &branches)
 /// Statements with colons between them, up to the line's end or an Else.
 Block StatementParser::blockOnOneLine()
 {
-    const Counted deeper(mDepth);
+    const CountedUp deeper(mDepth);
     std::vector<const Statement *> statements;
     do {
         if (atEnd())
@@ -121,7 +121,7 @@ Statement *StatementParser::forStatement()
     charge(node);
     expectEnd();
     {
-        const Counted inside(mFors);
+        const CountedUp inside(mFors);
         node.block = block();
     }
     mReader.expect(TokenKind::Next);
@@ -137,7 +137,7 @@ Statement *StatementParser::forEach(Position position)
     charge(node);
     expectEnd();
     {
-        const Counted inside(mFors);
+        const CountedUp inside(mFors);
         node.block = block();
     }
     mReader.expect(TokenKind::Next);
@@ -161,7 +161,7 @@ Statement *StatementParser::doLoop()
     charge(node);
     expectEnd();
     {
-        const Counted inside(mDos);
+        const CountedUp inside(mDos);
         node.block = block();
     }
     mReader.expect(TokenKind::Loop);

@@ -79,17 +79,6 @@ private:
     std::vector<Element> mElements;
 };
 
-qint32 Evaluator::memberNumber(NameId name)
-{
-    constexpr qint32 notAsked = -2;
-    if (mMemberNumbers.empty())
-        mMemberNumbers.assign(size_t(mProgram.names.count()), notAsked);
-    qint32 &number = mMemberNumbers[size_t(name)];
-    if (number == notAsked)
-        number = mRun.host.memberNumber(spelling(name));
-    return number;
-}
-
 void Evaluator::callStatement(const Expression &call)
 {
     switch (call.kind) {

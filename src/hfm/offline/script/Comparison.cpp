@@ -1,6 +1,7 @@
 #include "hfm/offline/script/Coercions.h"
 #include "hfm/offline/script/Operations.h"
 
+#include <algorithm>
 #include <compare>
 
 namespace hfm::offline::script {
@@ -85,6 +86,15 @@ Value compared(TokenKind operation, Compared left, Compared right, RunState &run
     const Kind ofRight = right.value.kind();
     if (ofLeft == Kind::Integer && ofRight == Kind::Integer)
         return answer(operation, left.value.asInteger() <=> right.value.asInteger());
+    const bool isEquality = operation == TokenKind::Equal || operation == TokenKind::NotEqual;
+    if (isEquality && ofLeft == Kind::Text && ofRight == Kind::Text) {
+        const QStringView first = left.value.textView();
+        const QStringView second = right.value.textView();
+        run.bounds.work(std::min(first.size(), second.size()));
+        const bool isSame = first.size() == second.size() &&
+                            std::equal(first.utf16(), first.utf16() + first.size(), second.utf16());
+        return Value::boolean(isSame == (operation == TokenKind::Equal));
+    }
     if (ofLeft == Kind::Null || ofRight == Kind::Null)
         return Value::null();
     if (ofLeft == Kind::Label && ofRight == Kind::Label &&

@@ -13,7 +13,8 @@ qint64 bytesOf(const Procedure &procedure)
 
 } // namespace
 
-Evaluator::Evaluator(const Program &program, RunState &run) : mProgram(program), mRun(run)
+Evaluator::Evaluator(const Program &program, RunState &run)
+    : mProgram(program), mRun(run), mMemberNumbers(size_t(program.names.count()), notAsked)
 {
     mRun.memory().take(bytesOf(program.main));
     mGlobals.resize(size_t(program.main.slotCount));

@@ -52,13 +52,35 @@ private:
     void assign(const Assign &statement);
     void dim(const Dim &statement);
     void redim(const ReDim &statement);
-    Value *variable(const Name &name);
+    /// The variable that a name stands for; nullptr where it stands for none.
+    Value *variable(const Name &name)
+    {
+        switch (name.binding) {
+        case Binding::Local:
+        case Binding::Result:
+            return &mFrame->slots[name.index].target();
+        case Binding::Global:
+            return &mGlobals[size_t(name.index)];
+        default:
+            return nullptr;
+        }
+    }
     Value &writable(const Name &name);
     Value &locate(const Expression &target);
     ArrayData::Extents subscripts(std::span<Expression *const> expressions);
 
     // ExpressionEvaluator.cpp
     Value evaluate(const Expression &expression);
+    /// The value of a literal or a variable, where it stands; nullptr of everything else. Valid
+    /// until anything is evaluated.
+    const Value *look(const Expression &expression)
+    {
+        if (expression.kind == ExpressionKind::Literal)
+            return static_cast<const Literal &>(expression).value;
+        return expression.kind == ExpressionKind::Name
+                   ? variable(static_cast<const Name &>(expression))
+                   : nullptr;
+    }
     Value evaluateName(const Name &name);
     Value evaluateMember(const Member &member, std::span<Expression *const> arguments);
     Value evaluateApply(const Apply &apply, bool isStatement);
@@ -76,9 +98,17 @@ private:
     Value callBuiltin(const Name &name, std::span<Expression *const> arguments);
     Value callProcedure(qint32 index, std::span<Expression *const> arguments, bool isStatement);
     Value argument(const Expression &expression, bool isByReference, ElementArguments &elements);
-    qint32 memberNumber(NameId name);
+    qint32 memberNumber(NameId name)
+    {
+        qint32 &number = mMemberNumbers[size_t(name)];
+        if (number == notAsked)
+            number = mRun.host.memberNumber(spelling(name));
+        return number;
+    }
 
     const QString &spelling(NameId name) const { return mProgram.names.spelling(name); }
+
+    static constexpr qint32 notAsked = -2;
 
     const Program &mProgram;
     RunState &mRun;

@@ -62,10 +62,10 @@ Value Evaluator::evaluateMember(const Member &member, std::span<Expression *cons
         mRun.at = member.position;
         throw finalFault(UnknownMember, target->name() + QLatin1Char('.') + spelling(member.name));
     }
-    if (arguments.size() == 1) {
-        const Value only = evaluate(*arguments[0]);
+    if (arguments.size() <= 1) {
+        const Value only = arguments.empty() ? Value() : evaluate(*arguments[0]);
         mRun.at = member.position;
-        return target->invoke(number, {&only, 1}, mRun);
+        return target->invoke(number, {&only, arguments.size()}, mRun);
     }
     const ArgumentList list(*this, arguments);
     mRun.at = member.position;
@@ -119,6 +119,14 @@ QString Evaluator::nameOf(const Expression &expression) const
 
 Value Evaluator::element(const Value &array, const Apply &apply)
 {
+    const Value *only = apply.arguments.size() == 1 ? look(*apply.arguments[0]) : nullptr;
+    if (only != nullptr && only->kind() == Kind::Integer && array.kind() == Kind::Array &&
+        array.asArray()->extents.size() == 1) {
+        const auto &elements = array.asArray()->elements;
+        const auto index = size_t(quint32(only->asInteger()));
+        if (index < elements.size())
+            return elements[index];
+    }
     const ArrayData::Extents at = subscripts(apply.arguments);
     mRun.at = apply.position;
     if (array.kind() != Kind::Array)
@@ -142,13 +150,22 @@ Value Evaluator::evaluateUnary(const Unary &unary)
 
 Value Evaluator::evaluateChain(const Chain &chain)
 {
-    Value left = evaluate(*chain.first);
+    Value result;
+    const Value *left = look(*chain.first);
+    if (left == nullptr || look(*chain.links.front().operand) == nullptr) {
+        result = evaluate(*chain.first);
+        left = &result;
+    }
     bool isLiteral = chain.first->kind == ExpressionKind::Literal;
     for (const Chain::Link &link : chain.links) {
-        left = operate(link, left, isLiteral, evaluate(*link.operand));
+        if (const Value *right = look(*link.operand))
+            result = operate(link, *left, isLiteral, *right);
+        else
+            result = operate(link, *left, isLiteral, evaluate(*link.operand));
+        left = &result;
         isLiteral = false;
     }
-    return left;
+    return result;
 }
 
 Value Evaluator::operate(const Chain::Link &link, const Value &left, bool leftIsLiteral,

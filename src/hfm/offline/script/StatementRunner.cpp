@@ -164,13 +164,17 @@ Evaluator::Flow Evaluator::runFor(const For &statement)
     for (;;) {
         mRun.at = statement.variable->position;
         mRun.bounds.step();
-        const double current = doubleOf(*variable, mRun);
+        const double current =
+            variable->kind() == Kind::Integer ? variable->asInteger() : doubleOf(*variable, mRun);
         if (isUpwards ? current > end : current < end)
             return Flow::Normal;
         const Flow flow = runBlock(statement.block);
         if (flow != Flow::Normal)
             return flow == Flow::ExitFor ? Flow::Normal : flow;
-        *variable = calculated(TokenKind::Plus, *variable, step, mRun);
+        if (variable->kind() == Kind::Integer && step.kind() == Kind::Integer)
+            *variable = Value::whole(qint64(variable->asInteger()) + step.asInteger());
+        else
+            *variable = calculated(TokenKind::Plus, *variable, step, mRun);
     }
 }
 

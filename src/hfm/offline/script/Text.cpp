@@ -13,7 +13,7 @@ Text::Data *Text::make(qsizetype size, Memory *memory)
     const qint64 bytes = qint64(sizeof(Data)) + 2 * qint64(size);
     if (memory != nullptr)
         memory->take(bytes);
-    return new (::operator new(size_t(bytes))) Data{1, qint32(size), memory};
+    return new (::operator new(size_t(bytes))) Data{{}, qint32(size), memory};
 }
 
 void Text::destroy(Data *data)

@@ -6,6 +6,12 @@
 
 namespace hfm::offline::script {
 
+/// What values share; its owner destroys it when nobody refers to it any more.
+struct Counted
+{
+    quint32 references = 1;
+};
+
 /// A text of a script: immutable, shared, and counted against the memory of the run that made it.
 /// Unlike QString it has its characters beside its counters and needs no atomic operations, for
 /// scripts make very many of them.
@@ -35,9 +41,8 @@ public:
 private:
     friend class Value;
 
-    struct Data
+    struct Data : Counted
     {
-        quint32 references;
         qint32 size;
         Memory *memory;
 

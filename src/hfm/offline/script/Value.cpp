@@ -2,20 +2,12 @@
 
 namespace hfm::offline::script {
 
-void Value::hold() const
+void Value::destroy()
 {
     if (mKind == Kind::Array)
-        ++mArray->references;
-    else if (mText != nullptr)
-        ++mText->references;
-}
-
-void Value::drop()
-{
-    if (mKind == Kind::Array)
-        releaseArray(mArray);
+        destroyArray(static_cast<ArrayData *>(mCounted));
     else
-        Text::release(mText);
+        Text::destroy(static_cast<Text::Data *>(mCounted));
 }
 
 } // namespace hfm::offline::script

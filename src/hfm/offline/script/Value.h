@@ -42,7 +42,7 @@ public:
     Value() = default; ///< Empty
     explicit Value(Text text) noexcept : mKind(Kind::Text)
     {
-        mText = std::exchange(text.mData, nullptr);
+        mCounted = std::exchange(text.mData, nullptr);
     }
     Value(const Value &other) : mKind(other.mKind), mBits(other.mBits)
     {
@@ -120,12 +120,7 @@ public:
         return result;
     }
     /// Takes over one reference to the data.
-    static Value array(ArrayData *data)
-    {
-        Value result(Kind::Array);
-        result.mArray = data;
-        return result;
-    }
+    static inline Value array(ArrayData *data);
 
     Kind kind() const { return mKind; }
     bool isNumeric() const { return mKind >= Kind::Boolean && mKind <= Kind::Double; }
@@ -137,16 +132,17 @@ public:
     HostLabel asLabel() const { return mLabel; }
     HostObject *asObject() const { return mObject; }
     Value *asReference() const { return mTarget; }
-    ArrayData *asArray() const { return mArray; }
+    inline ArrayData *asArray() const; // in ArrayData.h, as is array()
     /// Valid as long as the value is not changed.
     QStringView textView() const
     {
-        return mText == nullptr ? QStringView() : QStringView(mText->units(), mText->size);
+        auto *const data = static_cast<Text::Data *>(mCounted);
+        return data == nullptr ? QStringView() : QStringView(data->units(), data->size);
     }
     Text asText() const
     {
         Text text;
-        text.mData = mText;
+        text.mData = static_cast<Text::Data *>(mCounted);
         text.hold();
         return text;
     }
@@ -156,8 +152,17 @@ public:
 
 private:
     explicit Value(Kind kind) : mKind(kind) {}
-    void hold() const;
-    void drop();
+    void hold() const
+    {
+        if (mCounted != nullptr)
+            ++mCounted->references;
+    }
+    void drop()
+    {
+        if (mCounted != nullptr && --mCounted->references == 0)
+            destroy();
+    }
+    void destroy();
 
     Kind mKind = Kind::Empty;
     union {
@@ -167,8 +172,7 @@ private:
         HostLabel mLabel;
         HostObject *mObject;
         Value *mTarget;
-        Text::Data *mText;
-        ArrayData *mArray;
+        Counted *mCounted; ///< of a Text and of an Array; nullptr is the empty text
     };
 };
 

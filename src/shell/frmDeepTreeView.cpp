@@ -99,16 +99,6 @@ void DeepTreeView::mousePressEvent(QMouseEvent *event)
     });
 }
 
-void DeepTreeView::mouseReleaseEvent(QMouseEvent *event)
-{
-    mTrap.run([&] {
-        if (event->button() != Qt::LeftButton)
-            QAbstractItemView::mouseReleaseEvent(event);
-        else
-            QTreeView::mouseReleaseEvent(event);
-    });
-}
-
 void DeepTreeView::mouseDoubleClickEvent(QMouseEvent *event)
 {
     mTrap.run([&] {

@@ -121,7 +121,7 @@ Value joined(const Value &left, const Value &right, RunState &run)
 {
     if (isNull(left) && isNull(right))
         return Value::null();
-    static const Value nothing;
+    static const Value nothing{};
     const TextOf first(isNull(left) ? nothing : left, run);
     const TextOf second(isNull(right) ? nothing : right, run);
     run.bounds.work(first.size() + second.size());

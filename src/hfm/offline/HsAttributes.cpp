@@ -40,7 +40,7 @@ Value HsDimension::attribute(HsMember member, MemberId of)
         return entityAttribute(member, of);
     if (mKind == DimensionKind::Account)
         return accountAttribute(member, of);
-    static const CustomRecord none;
+    static const CustomRecord none{};
     const bool hasRecord = size_t(of) < mDimension.customs.size();
     const CustomRecord &record = hasRecord ? mDimension.customs[size_t(of)] : none;
     if (mKind == DimensionKind::ICP && member != HsMember::SecurityClass)

@@ -1,5 +1,6 @@
 #include "appinfo/WorkbookFile.h"
 
+#include "appinfo/NewName.h"
 #include "appinfo/WorkbookWriter.h"
 #include "runtime/SystemError.h"
 
@@ -129,12 +130,10 @@ void WorkbookFile::write(const QString &file)
 void WorkbookFile::moveInPlace(const QString &file)
 {
     for (int number = 2;; ++number) {
-        errno = 0;
-        QFile whole(file);
-        if (whole.rename(mPath)) // which replaces nothing
+        const int error = moveToNewName(file, mPath);
+        if (error == 0)
             return;
-        const int error = lastError();
-        if (!QFileInfo::exists(mPath) && !QFileInfo(mPath).isSymLink())
+        if (error != EEXIST)
             throw errorFromSystem(error, mPath);
         mPath = mBasePath + u" ("_s + QString::number(number) + u')' + suffix;
     }

@@ -238,6 +238,23 @@ private Q_SLOTS:
         QCOMPARE(printed(at(u"book.xlsx"_s)).last(), u"A1 s '0'"_s);
     }
 
+    void whateverHasTheNameByThenIsKept()
+    {
+        WorkbookFile workbook(at(u"book"_s));
+        workbook.addWorksheet().setCell(1, 1, u"x");
+        QVERIFY(QFile::link(at(u"nothing"_s), at(u"book.xlsx"_s)));
+        QVERIFY(QDir(folder()).mkdir(u"book (2).xlsx"_s));
+        QFile appeared(at(u"book (3).xlsx"_s));
+        QVERIFY(appeared.open(QIODevice::WriteOnly));
+        workbook.complete();
+        QCOMPARE(workbook.path(), at(u"book (4).xlsx"_s));
+        QCOMPARE(printed(workbook.path()).last(), u"A1 s 'x'"_s);
+        QVERIFY(!QFile::exists(at(u"nothing"_s)));
+        QVERIFY(QFileInfo(at(u"book.xlsx"_s)).isSymLink());
+        QVERIFY(QDir(at(u"book (2).xlsx"_s)).isEmpty());
+        QCOMPARE(appeared.size(), 0);
+    }
+
     void aFullDiskIsToldWhereverItFills_data()
     {
         QTest::addColumn<int>("bytes");

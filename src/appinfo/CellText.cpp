@@ -14,10 +14,23 @@ bool isHexDigit(QChar character)
            (code >= u'a' && code <= u'f');
 }
 
+/// Whether a text that is not empty begins with what XML does not allow.
+bool isInvalid(QStringView text)
+{
+    const QChar unit = text.front();
+    const char16_t code = unit.unicode();
+    if (unit.isHighSurrogate())
+        return text.size() == 1 || !text[1].isLowSurrogate();
+    const bool isControl = code < 0x20 && code != u'\t' && code != u'\n';
+    return isControl || unit.isLowSurrogate() || code >= 0xFFFE;
+}
+
+/// Also where the last '_' is that of the next character's own escape.
 bool looksLikeAnEscape(QStringView text)
 {
-    return text.size() >= escapeLength && text[1] == u'x' && text[6] == u'_' &&
-           std::all_of(text.begin() + 2, text.begin() + 6, isHexDigit);
+    return text.size() >= escapeLength && text[1] == u'x' &&
+           std::all_of(text.begin() + 2, text.begin() + 6, isHexDigit) &&
+           (text[6] == u'_' || isInvalid(text.sliced(6)));
 }
 
 char *appendEscape(char16_t unit, char *out)
@@ -64,13 +77,11 @@ struct Next
 Next nextOf(QStringView text)
 {
     const QChar unit = text.front();
-    const char16_t code = unit.unicode();
-    if (unit.isHighSurrogate() && text.size() > 1 && text[1].isLowSurrogate())
+    if (isInvalid(text) || (unit == u'_' && looksLikeAnEscape(text)))
+        return {unit.unicode(), 1, true};
+    if (unit.isHighSurrogate())
         return {QChar::surrogateToUcs4(unit, text[1]), 2};
-    const bool isControl = code < 0x20 && code != u'\t' && code != u'\n';
-    const bool isEscaped = isControl || unit.isSurrogate() || code >= 0xFFFE ||
-                           (code == u'_' && looksLikeAnEscape(text));
-    return {code, 1, isEscaped};
+    return {unit.unicode()};
 }
 
 bool isPlain(QChar unit)

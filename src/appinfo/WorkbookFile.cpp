@@ -40,7 +40,8 @@ public:
             text = text.sliced(1);
         if (!mCells.setCell(row, column, text))
             std::fprintf(stderr,
-                         "%s: the text of cell %s is longer than 32,767 characters and cut\n",
+                         "%s: the text of cell %s is cut: a cell holds 32,767 characters, and one "
+                         "that XML does not allow counts as 7\n",
                          qPrintable(mWorkbook), qPrintable(cellName(row, column)));
     }
     CellSpool &cells() { return mCells; }

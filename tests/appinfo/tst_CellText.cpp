@@ -42,6 +42,13 @@ private Q_SLOTS:
         row("looks like an escape", u"a_x0041_b"_s, "a_x005F_x0041_b");
         row("looks like one in small letters", u"_xabcd_"_s, "_x005F_xabcd_");
         row("looks like an escaped escape", u"_x005F_x0041_"_s, "_x005F_x005F_x005F_x0041_");
+        row("an escape would end what looks like one", u"_x0041\u0001"_s, "_x005F_x0041_x0001_");
+        row("so would a carriage return", u"_x0041\r"_s, "_x005F_x0041_x000D_");
+        row("so would half a pair", u"_x0041"_s + QChar(0xD834), "_x005F_x0041_xD834_");
+        row("so would the other half", u"_x0041"_s + QChar(0xDD1E) + u'a', "_x005F_x0041_xDD1E_a");
+        row("so would no character", u"_x0041\uFFFE"_s, "_x005F_x0041_xFFFE_");
+        row("a whole pair would not", u"_x0041𝄞"_s, "_x0041𝄞");
+        row("nor would a tab", u"_x0041\t_x0041"_s, "_x0041\t_x0041");
         row("no escape", u"_x004_ _X0041_ _x0041 x0041_ _x00g1_ __"_s,
             "_x004_ _X0041_ _x0041 x0041_ _x00g1_ __");
     }

@@ -129,6 +129,7 @@ private Q_SLOTS:
                      sheet.setCell(1, 7, u" ");
                      sheet.setCell(1, 8, QString(QChar::Null));
                      sheet.setCell(1, 9, u"_x005F_x0041_");
+                     sheet.setCell(1, 10, u"_x0041\u0001");
                  }).sliced(2),
                  QStringList({
                      u"A1 s ' leading and trailing '"_s,
@@ -140,6 +141,7 @@ private Q_SLOTS:
                      u"G1 s ' '"_s,
                      u"H1 s '\\x00'"_s,
                      u"I1 s '_x005F_x0041_'"_s,
+                     u"J1 s '_x0041\\x01'"_s,
                  }));
     }
 
@@ -179,13 +181,17 @@ private Q_SLOTS:
             cells = written([](Worksheet &sheet) {
                 sheet.setCell(1, 1, QString(u'\'' + QString(32'767, u'a')));
                 sheet.setCell(7, 3, QString(40'000, u'b'));
+                sheet.setCell(8, 28, QString(32'760, u'c') + u"\r\r"_s);
             });
         });
-        QCOMPARE(cells.size(), 4);
+        QCOMPARE(cells.size(), 5);
         QCOMPARE(cells[2], u"A1 s '"_s + QString(32'767, u'a') + u'\'');
         QCOMPARE(cells[3], u"C7 s '"_s + QString(32'767, u'b') + u'\'');
-        QCOMPARE(errors, at(u"book.xlsx"_s) +
-                             u": the text of cell C7 is longer than 32,767 characters and cut\n"_s);
+        QCOMPARE(cells[4], u"AB8 s '"_s + QString(32'760, u'c') + u"\\r'"_s);
+        const QString line = at(u"book.xlsx"_s) +
+                             u": the text of cell %1 is cut: a cell holds 32,767 characters, and "
+                             "one that XML does not allow counts as 7\n"_s;
+        QCOMPARE(errors, line.arg(u"C7"_s) + line.arg(u"AB8"_s));
     }
 
     void aUsersDecimalCommaDoesNotSpoilTheFile()

@@ -12,9 +12,12 @@ class DeepTreeView : public QTreeView
     Q_OBJECT
 
 public:
-    /// How deep nodes are opened by expandBelow(). A tree view lays out open nodes recursively, so
-    /// a deeper hierarchy, which no application has, would overflow the thread's stack.
-    static constexpr qint32 deepestExpansion = 1000;
+    /// How deep nodes are opened by expandBelow(). Qt's tree view lays out open nodes recursively,
+    /// with some 350 bytes of the thread's stack for each level: these take less than half of the
+    /// usual 8 MB. More would help nobody: Qt counts a row's level in 16 bits and a column's width
+    /// in 20, which indentation alone has used up at 52,000 levels. No application is near any of
+    /// it.
+    static constexpr qint32 deepestExpansion = 10000;
 
     explicit DeepTreeView(ErrorTrap &trap, QWidget *parent = nullptr);
 

@@ -1,12 +1,14 @@
 #include "appinfo/WorkbookWriter.h"
 
 #include "appinfo/CellSpool.h"
+#include "appinfo/ZipDirectory.h"
 #include "runtime/SystemError.h"
 
 #include <QFile>
 
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -25,6 +27,27 @@ constexpr qint64 mostBytesAroundRows = 2048;
 int lastError()
 {
     return errno != 0 ? errno : EIO;
+}
+
+/// What the library leaves in errno comes after its message to standard error: where that is closed
+/// or a broken pipe, it is not about the file.
+int causeOf(int systemError)
+{
+    const bool isOfPrinting = systemError == EBADF || systemError == EPIPE || systemError == EAGAIN;
+    return systemError == 0 || isOfPrinting ? ENOSPC : systemError;
+}
+
+/// The bytes by which an activated sheet is longer than an empty one that is not.
+qint64 bytesMoreThanEmpty(const lxw_worksheet *sheet, qint64 rows)
+{
+    const qint64 mark = qint64(std::strlen(" tabSelected=\"1\""));
+    if (rows == 0)
+        return mark;
+    char cells[LXW_MAX_CELL_RANGE_LENGTH];
+    lxw_rowcol_to_range(cells, sheet->dim_rowmin, sheet->dim_colmin, sheet->dim_rowmax,
+                        sheet->dim_colmax);
+    return mark + qint64(std::strlen(cells)) - qint64(std::strlen("A1")) + rows +
+           qint64(std::strlen("<sheetData></sheetData>") - std::strlen("<sheetData/>"));
 }
 
 } // namespace
@@ -103,7 +126,9 @@ void WorkbookWriter::finishRows(lxw_worksheet *sheet)
     const bool isWritten = std::fflush(sheet->optimize_tmpfile) == 0;
     if (!isWritten || std::ferror(sheet->optimize_tmpfile))
         throw errorFromSystem(errno != 0 ? errno : ENOSPC, mWorkbook);
-    mLargestSheet = std::max<qint64>(mLargestSheet, ftello(sheet->optimize_tmpfile));
+    const qint64 rows = ftello(sheet->optimize_tmpfile);
+    mLargestSheet = std::max(mLargestSheet, rows);
+    mSheetBytes.push_back(bytesMoreThanEmpty(sheet, rows));
 }
 
 /// Closing copies each sheet to one more temporary file, out of sight. A place for it is taken and
@@ -128,9 +153,24 @@ void WorkbookWriter::close()
     const lxw_error error =
         workbook_close(std::exchange(mBook, nullptr)); // frees it, come what may
     const int systemError = errno;
-    if (error == LXW_NO_ERROR)
-        return;
     if (error == LXW_ERROR_MEMORY_MALLOC_FAILED)
         throw RuntimeError(OutOfMemory);
-    throw errorFromSystem(systemError != 0 ? systemError : EIO, mWorkbook);
+    if (error != LXW_NO_ERROR)
+        throw errorFromSystem(causeOf(systemError), mWorkbook);
+    makeSureOfSheets();
+}
+
+/// Another program may have taken the place meanwhile, and of what the library could not write to
+/// its temporary files it says nothing.
+void WorkbookWriter::makeSureOfSheets()
+{
+    const auto sizes = sizesInZip(QFile::decodeName(mFile));
+    const auto sizeOf = [&](size_t sheet) {
+        return sizes.value("xl/worksheets/sheet" + QByteArray::number(sheet) + ".xml");
+    };
+    bool isWhole = !sizes.isEmpty() && !sizes.values().contains(0);
+    for (size_t i = 0; i < mSheetBytes.size(); ++i)
+        isWhole = isWhole && sizeOf(i + 2) >= sizeOf(1) + mSheetBytes[i];
+    if (!isWhole)
+        throw errorFromSystem(ENOSPC, mWorkbook);
 }

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <clocale>
+#include <vector>
 
 class CellSpool;
 struct lxw_workbook;
@@ -19,6 +20,7 @@ public:
     ~WorkbookWriter();
     Q_DISABLE_COPY_MOVE(WorkbookWriter)
 
+    /// The first sheet; comes before the others.
     void addEmptySheet();
     /// Adds a sheet with these cells, which is the one in front from now on.
     void addSheet(CellSpool &cells);
@@ -44,11 +46,13 @@ private:
     void check(int libraryError);
     void finishRows(lxw_worksheet *sheet);
     void makeSureOfRoom();
+    void makeSureOfSheets();
 
     PointInNumbers mNumbers;
     QByteArray mFile;
     QByteArray mTemporaries;
     QString mWorkbook;
     lxw_workbook *mBook;
-    qint64 mLargestSheet = 0; ///< in bytes
+    qint64 mLargestSheet = 0;        ///< in bytes
+    std::vector<qint64> mSheetBytes; ///< of each sheet, beyond those of an empty one
 };

@@ -43,6 +43,7 @@ CellSpool::CellSpool(const QString &path, QString workbook)
     errno = 0;
     if (!mFile.open(QIODevice::ReadWrite | QIODevice::NewOnly | QIODevice::Unbuffered))
         throw errorFromSystem(lastError(), mWorkbook);
+    unlink(QFile::encodeName(path).constData()); // its bytes go with this process, come what may
 }
 
 bool CellSpool::setCell(qint32 row, qint32 column, QStringView text)

@@ -15,7 +15,8 @@ public:
     static constexpr qint32 mostRows = 1'048'576;
     static constexpr qint32 mostColumns = 16'384;
 
-    /// Makes the file `path`; its errors name `workbook`. Fails as errorFromSystem() tells.
+    /// Makes the file `path`, which loses its name at once where the file system has such files;
+    /// its errors name `workbook`. Fails as errorFromSystem() tells.
     CellSpool(const QString &path, QString workbook);
     /// Removes the file.
     ~CellSpool() { mFile.remove(); }

@@ -2,6 +2,7 @@
 #include "support/Errors.h"
 #include "support/FileFaults.h"
 
+#include <QDir>
 #include <QMap>
 #include <QTemporaryDir>
 #include <QTest>
@@ -176,11 +177,21 @@ private Q_SLOTS:
         QCOMPARE(error->description(), u"Disk full: /the/workbook"_s);
     }
 
-    void itsFileGoesWithIt()
+    void aProcessThatDiesLeavesNoFile()
     {
-        QVERIFY(QFile::exists(mFolder->filePath(u"cells"_s)));
-        mSpool.reset();
-        QVERIFY(!QFile::exists(mFolder->filePath(u"cells"_s)));
+        QVERIFY(
+            QDir(mFolder->path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+        QVERIFY(mSpool->setCell(1, 1, u"x"));
+        mSpool->endWriting();
+        QCOMPARE(row(1), Row({{1, "x"}}));
+    }
+
+    void aFileOfItsNameIsKept()
+    {
+        QFile other(mFolder->filePath(u"other"_s));
+        QVERIFY(other.open(QIODevice::WriteOnly));
+        QVERIFY(errorOf([&] { CellSpool(other.fileName(), u"/the/workbook"_s); }));
+        QVERIFY(other.exists());
     }
 };
 

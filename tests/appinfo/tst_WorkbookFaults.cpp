@@ -142,6 +142,20 @@ private Q_SLOTS:
         QCOMPARE(error, diskFull());
     }
 
+    void severalSheetsOfAnyExtentAreWhole()
+    {
+        const auto error = errorOf([&] {
+            WorkbookFile workbook(path());
+            workbook.addWorksheet().setCell(3, 2, u"x");
+            workbook.addWorksheet();
+            Worksheet &last = workbook.addWorksheet();
+            last.setCell(1'048'576, 16'384, u"y");
+            last.setCell(12, 30, u"z");
+            workbook.complete();
+        });
+        QVERIFY(!error);
+    }
+
     void withRoomEnoughNothingIsTold_data()
     {
         QTest::addColumn<int>("rows");

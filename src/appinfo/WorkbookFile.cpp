@@ -4,8 +4,7 @@
 #include "appinfo/WorkbookWriter.h"
 #include "runtime/SystemError.h"
 
-#include <QDir>
-#include <QFileInfo>
+#include <QFile>
 
 #include <cerrno>
 #include <cstdio>
@@ -60,16 +59,6 @@ int lastError()
     return errno != 0 ? errno : EIO;
 }
 
-/// Makes a folder of its own beside the file.
-QString makeFolderBeside(const QString &path)
-{
-    const QString parent = QFileInfo(path).absolutePath();
-    QByteArray name = QFile::encodeName(parent + u"/.Tessaly Export XXXXXX"_s);
-    if (!mkdtemp(name.data()))
-        throw errorFromSystem(lastError(), path);
-    return QFile::decodeName(name);
-}
-
 /// Some file systems report a full disk only when the data must reach the disk.
 void bringToDisk(const QString &file, const QString &workbook)
 {
@@ -86,15 +75,11 @@ void bringToDisk(const QString &file, const QString &workbook)
 } // namespace
 
 WorkbookFile::WorkbookFile(QString path)
-    : mBasePath(std::move(path)), mPath(mBasePath + suffix), mFolder(makeFolderBeside(mPath))
+    : mBasePath(std::move(path)), mPath(mBasePath + suffix), mFolder(mPath)
 {
 }
 
-WorkbookFile::~WorkbookFile()
-{
-    mSheets.clear();
-    QDir(mFolder).removeRecursively();
-}
+WorkbookFile::~WorkbookFile() = default;
 
 Worksheet &WorkbookFile::addWorksheet()
 {
@@ -113,12 +98,12 @@ void WorkbookFile::complete()
 
 QString WorkbookFile::inFolder(const QString &name) const
 {
-    return mFolder + u'/' + name;
+    return mFolder.path() + u'/' + name;
 }
 
 void WorkbookFile::write(const QString &file)
 {
-    WorkbookWriter writer(file, mFolder, mPath);
+    WorkbookWriter writer(file, mFolder.path(), mPath);
     writer.addEmptySheet();
     for (const auto &sheet : mSheets) {
         sheet->cells().endWriting();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "appinfo/CellSpool.h"
+#include "appinfo/HiddenFolder.h"
 #include "runtime/Spreadsheet.h"
 
 #include <memory>
@@ -39,6 +40,6 @@ private:
 
     QString mBasePath;
     QString mPath;
-    QString mFolder; ///< the hidden one
+    HiddenFolder mFolder;
     std::vector<std::unique_ptr<Sheet>> mSheets;
 };

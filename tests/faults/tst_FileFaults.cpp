@@ -53,6 +53,8 @@ public:
             qFatal("The test's folder cannot be written");
         file.close();
         chmod(QFile::encodeName(path()).constData(), permissions);
+        OrdinaryUser::own(path()); // so that root has an owner to keep
+        mOwner = ownerOf(path());
     }
 
     /// A name as long as names can be leaves none for a second file beside it.
@@ -95,11 +97,20 @@ public:
         if (mTarget.former &&
             (fstat(file.handle(), &status) != 0 || (status.st_mode & 07777) != permissions))
             return u"other permissions"_s;
+        if (mTarget.former && ownerOf(path()) != mOwner)
+            return u"another owner"_s;
         return {};
     }
 
 private:
+    static uid_t ownerOf(const QString &path)
+    {
+        struct stat status = {};
+        return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_uid : uid_t(-1);
+    }
+
     const Target &mTarget;
+    uid_t mOwner = 0;
     QTemporaryDir mFolder;
 };
 

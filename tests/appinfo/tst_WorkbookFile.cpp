@@ -202,10 +202,10 @@ private Q_SLOTS:
                  0);
         qputenv("LOCPATH", QFile::encodeName(locales.path()));
         QVERIFY(std::setlocale(LC_NUMERIC, "de_DE.UTF-8"));
+        qunsetenv("LOCPATH"); // which makes the C library's newlocale() leak
         const QStringList cells = written([](Worksheet &sheet) { sheet.setCell(1, 1, u"x"); });
         const QByteArray comma = QByteArray::number(0) + std::localeconv()->decimal_point;
         std::setlocale(LC_NUMERIC, "C");
-        qunsetenv("LOCPATH");
         QCOMPARE(comma, QByteArray("0,")); // which is the user's again
         QCOMPARE(cells.last(), u"A1 s 'x'"_s);
     }

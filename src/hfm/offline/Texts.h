@@ -16,7 +16,7 @@ namespace hfm::offline {
 inline bool sameBytes(QByteArrayView left, QByteArrayView right)
 {
     return left.size() == right.size() &&
-           std::memcmp(left.data(), right.data(), size_t(left.size())) == 0;
+           (left.isEmpty() || std::memcmp(left.data(), right.data(), size_t(left.size())) == 0);
 }
 
 /// Stands for a text of an arena; 0 is the empty text.

@@ -38,6 +38,14 @@ void *operator new[](std::size_t size)
 {
     return operator new(size);
 }
+void *operator new(std::size_t size, const std::nothrow_t &) noexcept
+{
+    return size > largestMemory ? nullptr : std::malloc(size);
+}
+void *operator new[](std::size_t size, const std::nothrow_t &nothrow) noexcept
+{
+    return operator new(size, nothrow);
+}
 void operator delete(void *memory) noexcept
 {
     std::free(memory);

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QGuiApplication>
-#include <QWidget>
+#include "shell/frmLastingHourglass.h"
 
 /// The hourglass as the mouse pointer until the end of its scope: the window's own, and over
 /// everything the program shows, text boxes with pointers of their own included. A message box
@@ -9,18 +8,10 @@
 class frmHourglass
 {
 public:
-    explicit frmHourglass(QWidget *window) : mWindow(window)
-    {
-        mWindow->setCursor(Qt::WaitCursor);
-        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    }
-    ~frmHourglass()
-    {
-        QGuiApplication::restoreOverrideCursor();
-        mWindow->unsetCursor();
-    }
+    explicit frmHourglass(QWidget *window) : mHourglass(window) {}
+    ~frmHourglass() { mHourglass.done(); }
     Q_DISABLE_COPY_MOVE(frmHourglass)
 
 private:
-    QWidget *mWindow;
+    frmLastingHourglass mHourglass;
 };

@@ -3,8 +3,8 @@
 #include <QGuiApplication>
 #include <QWidget>
 
-/// The hourglass as frmHourglass has it, but that the window itself keeps it unless done() is
-/// reached: a failing action leaves it set.
+/// The hourglass as the mouse pointer: over everything the program shows until the end of its
+/// scope, and the window's own until done(). An action that fails before leaves the window's set.
 class frmLastingHourglass
 {
 public:
